@@ -1,0 +1,1 @@
+#include "platform/core/math/trig.h"
