@@ -1,0 +1,174 @@
+#include "cntr/contour.h"
+
+#include "cntr/region.h"
+#include "cntr/segment_cache.h"
+#include "cntr/vertex_grid.h"
+#include "platform/core/math/real.h"
+
+#include <utility>
+
+namespace {
+
+std::uint32_t fittingLabel(unsigned long label) {
+    if (label > 0xFFFFFFFFul) throw gkContourDefs::BadParams(L"label does not fit in 32 bits");
+    return static_cast<std::uint32_t>(label);
+}
+
+// One step of a lexicographic comparison, as the maps' order states it; less is decided before greater.
+enum class Step { eLess, eGreater, eEqual };
+
+Step compared(double a, double b) {
+    if (!(a >= b)) return Step::eLess;
+    return a > b ? Step::eGreater : Step::eEqual;
+}
+
+template <std::size_t N> bool lexicographicallyLess(const double (&a)[N], const double (&b)[N]) {
+    for (std::size_t i = 0; i < N; ++i) {
+        const Step step = compared(a[i], b[i]);
+        if (step != Step::eEqual) return step == Step::eLess;
+    }
+    return false;
+}
+
+bool vectorLess(const gkVector<2>& a, const gkVector<2>& b) {
+    return a.x() < b.x() || (a.x() == b.x() && a.y() < b.y());
+}
+
+} // namespace
+
+bool gkContour::gsSTLLessPredicate::operator()(const gkRadian& a, const gkRadian& b) const {
+    return !(a.toDouble() >= b.toDouble());
+}
+
+bool gkContour::gsSTLLessPredicate::operator()(const gkXform<2>& a, const gkXform<2>& b) const {
+    // Element (1,1) is left out on purpose; see the header before adding it.
+    const double left[] = {a.translation().x(), a.translation().y(), a.matrix().element(0, 0), a.matrix().element(0, 1),
+                           a.matrix().element(1, 0)};
+    const double right[] = {b.translation().x(), b.translation().y(), b.matrix().element(0, 0),
+                            b.matrix().element(0, 1), b.matrix().element(1, 0)};
+    return lexicographicallyLess(left, right);
+}
+
+bool gkContour::gsSTLLessPredicate::operator()(const gkPair<long>& a, const gkPair<long>& b) const {
+    return vectorLess(gkVector<2>(a), gkVector<2>(b));
+}
+
+bool gkContour::gsSTLLessPredicate::operator()(const gkVector<2>& a, const gkVector<2>& b) const {
+    return vectorLess(a, b);
+}
+
+gkContour::Caches::Caches() = default;
+gkContour::Caches::Caches(const Caches& other) = default;
+gkContour::Caches& gkContour::Caches::operator=(Caches&& other) noexcept = default;
+gkContour::Caches::~Caches() = default;
+
+gkContour::gkContour() : gkContour(std::vector<gkVector<2>>(), true, 0) {}
+
+// A constructor reaches this class's own hook, which only forgets results; a derived class fills its data itself.
+gkContour::gkContour(const std::vector<gkVector<2>>& points, bool closed, unsigned long label) {
+    value_.label = fittingLabel(label);
+    value_.closed = closed;
+    value_.points = points;
+    gkContour::makeDataConsistentWithPoints();
+}
+
+gkContour::gkContour(const gkPolygon& polygon, unsigned long label) {
+    value_.label = fittingLabel(label);
+    value_.points = polygon.vertices();
+    value_.closed = gfRealEq(polygon[0], polygon[polygon.size() - 1], 1e-15);
+    gkContour::makeDataConsistentWithPoints();
+}
+
+gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(other), value_(), caches_() {
+    gkContour::operator=(other);
+}
+
+gkContour& gkContour::operator=(const gkContour& other) {
+    if (this == &other) return *this;
+    Value value(other.value_);
+    Caches caches(other.caches_);
+    value_ = std::move(value);
+    caches_ = std::move(caches);
+    return *this;
+}
+
+gkContour::~gkContour() = default;
+
+void gkContour::points(const std::vector<gkVector<2>>& points) {
+    setPoints(points);
+    makeDataConsistentWithPoints();
+}
+
+void gkContour::setPoints(const std::vector<gkVector<2>>& points) {
+    std::vector<gkVector<2>> copy(points);
+    cleanCacheInfo();
+    value_.points = std::move(copy);
+}
+
+bool gkContour::isClosed() const { return value_.closed; }
+
+void gkContour::isClosed(bool closed) {
+    value_.closed = closed;
+    cleanCacheInfo();
+}
+
+void gkContour::label(unsigned long label) {
+    value_.label = fittingLabel(label);
+    mutating();
+}
+
+void gkContour::cachedVectorSize(long size) {
+    if (size < 0) throw gkContourDefs::BadParams(L"");
+    if (size > 0x7FFFFFFFl) throw gkContourDefs::BadParams(L"cachedVectorSize does not fit in 32 bits");
+    value_.cachedVectorSize = static_cast<std::int32_t>(size);
+    mutating();
+}
+
+gkPolygon gkContour::polygon() const {
+    gkPolygon polygon(value_.points, static_cast<gkPolygon::FillMode>(0));
+    if (isClosed() && !value_.points.empty()) polygon.append(value_.points.front());
+    return polygon;
+}
+
+void gkContour::map(const gkXform<2>& xform, gkContour& out) const {
+    std::vector<gkVector<2>> mapped;
+    mapped.reserve(value_.points.size());
+    for (const gkVector<2>& point : value_.points) mapped.push_back(xform * point);
+    // Assigning a fresh contour resets cachedVectorSize to 3; this is meant.
+    out = gkContour(mapped, isClosed(), label());
+}
+
+bool gkContour::operator==(const gkContour& other) const {
+    return isClosed() == other.isClosed() && value_.points == other.value_.points &&
+           value_.cachedVectorSize == other.value_.cachedVectorSize;
+}
+
+void gkContour::checkEmptyContour() const {
+    if (value_.points.size() < 2) throw gkContourDefs::EmptyContour(L"");
+}
+
+void gkContour::makeDataConsistentWithPoints() { cleanCacheInfo(); }
+
+void gkContour::makePointsConsistentWithData() { cleanCacheInfo(); }
+
+void gkContour::deletePointers() {
+    caches_.encloseRects.reset();
+    caches_.extremalVertices.reset();
+    caches_.vertexGrids.reset();
+}
+
+void gkContour::cleanCacheInfo() {
+    mutating();
+    deletePointers();
+    caches_.segments.reset();
+    caches_.meanPosition.valid = false;
+    caches_.length = gk_Kept<double>();
+    caches_.convexHull.valid = false;
+    caches_.ellipseFit.valid = false;
+    caches_.ellipseFit.value.error = 0.0;
+    caches_.selfIntersecting.valid = false;
+    caches_.medianFeatureSize = gk_Kept<double>();
+    // The circles stay, only their flags go: encloseCircle may answer with a circle from before.
+    caches_.circleValid.assign(2, false);
+    caches_.circles.resize(2);
+}

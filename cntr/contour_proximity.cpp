@@ -1,0 +1,53 @@
+#include "cntr/contour.h"
+#include "cntr/index.h"
+#include "cntr/measures.h"
+#include "cntr/segment_cache.h"
+#include "cntr/vertex_grid.h"
+
+void gkContour::computeLineSegs() const {
+    gk_SegmentCache& segments = caches_.segments.made();
+    if (segments.computed) return;
+    segments.build(value_.points, isClosed());
+    mutating();
+}
+
+const std::vector<gkLineSeg>& gkContour::lineSegs() const {
+    computeLineSegs();
+    return caches_.segments.get()->segments;
+}
+
+const std::vector<bool>& gkContour::validLine() const {
+    computeLineSegs();
+    return caches_.segments.get()->validLine;
+}
+
+gkVector<2> gkContour::closestPoint(const gkVector<2>& p, bool verticesOnly) const {
+    checkEmptyContour();
+    if (verticesOnly) return value_.points[gk_ClosestVertex(value_.points, p)];
+    return gk_ClosestPoint(value_.points, isClosed(), p);
+}
+
+long gkContour::closestVertexIndex(const gkVector<2>& p) const {
+    checkEmptyContour();
+    return gk_IndexAs<long>(gk_ClosestVertex(value_.points, p));
+}
+
+double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {
+    return p.distance(closestPoint(p, verticesOnly));
+}
+
+std::vector<int> gkContour::vertexIndex(const gkVector<2>& p, double tolerance) const {
+    checkEmptyContour();
+    mutating();
+    return caches_.vertexGrids.made().near(value_.points, p, tolerance);
+}
+
+double gkContour::medianFeatureSize() const {
+    checkEmptyContour();
+    if (!caches_.medianFeatureSize.valid) {
+        caches_.medianFeatureSize.value = gk_MedianSegmentLength(value_.points, isClosed());
+        caches_.medianFeatureSize.valid = true;
+        mutating();
+    }
+    return caches_.medianFeatureSize.value;
+}

@@ -1,0 +1,18 @@
+// Vertex and segment numbers in the interface's own integer types.
+#ifndef GK_CNTR_INDEX_H
+#define GK_CNTR_INDEX_H
+
+#include "cntr/contour_defs.h"
+
+#include <cstddef>
+#include <cstdint>
+
+// An index or size that the interface tells as a 32-bit number; one that does not fit is refused, never cut.
+template <class Integer> Integer gk_IndexAs(std::size_t index) {
+    if (index > static_cast<std::size_t>(INT32_MAX)) {
+        throw gkContourDefs::BadParams(L"an index does not fit in 32 bits");
+    }
+    return static_cast<Integer>(index);
+}
+
+#endif

@@ -1,0 +1,28 @@
+// The one way in which an outline's segments are visited, which is also how they are numbered.
+#ifndef GK_CNTR_SEGMENT_WALK_H
+#define GK_CNTR_SEGMENT_WALK_H
+
+#include "platform/core/math/vector.h"
+
+#include <cstddef>
+#include <vector>
+
+// Calls visit(previous, current) for every segment. A closed outline of n vertices has n segments, the closing one
+// first: segment k ends at vertex k. An open one has n - 1: segment k starts at vertex k. The asymmetry is meant, callers
+// see it in segment indices.
+template <class Visit>
+void gk_WalkSegments(const std::vector<gkVector<2>>& points, bool closed, Visit visit) {
+    if (points.empty()) return;
+    std::size_t previous = closed ? points.size() - 1 : 0;
+    for (std::size_t current = closed ? 0 : 1; current < points.size(); ++current) {
+        visit(points[previous], points[current]);
+        previous = current;
+    }
+}
+
+// The number of segments that gk_WalkSegments visits.
+inline std::size_t gk_SegmentCount(const std::vector<gkVector<2>>& points, bool closed) {
+    return closed || points.empty() ? points.size() : points.size() - 1;
+}
+
+#endif
