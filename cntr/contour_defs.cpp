@@ -2,18 +2,9 @@
 
 #include "platform/core/archive/archive.h"
 #include "platform/core/object/instantiator.h"
+#include "platform/core/object/rethrow.h"
 
 #include <typeinfo>
-
-namespace {
-
-template <class Error> [[noreturn]] void destroyAndThrow(Error* error) {
-    Error copy(*error);
-    delete error;
-    throw copy;
-}
-
-} // namespace
 
 gkContourDefs::Errors::Errors(const std::wstring& message) : gkExceptionWithString(message.c_str()) {}
 
@@ -46,7 +37,7 @@ void gkContourDefs::Errors::serialize_(gkArchive& archive, unsigned char version
     gkContourDefs::Name& gkContourDefs::Name::operator=(const Name&) = default;                              \
     gkContourDefs::Name::~Name() = default;                                                                  \
     long gkContourDefs::Name::errorNumber() const { return number; }                                         \
-    void gkContourDefs::Name::suicideAndRethrow() { destroyAndThrow(this); }                                 \
+    void gkContourDefs::Name::suicideAndRethrow() { gk_FreeAndThrow(this); }                                 \
     gkPersistent* gkContourDefs::Name::make() { return new Name(std::wstring()); }                           \
     void gkContourDefs::Name::dispatchSerialize(gkArchive& archive) {                                        \
         if (haveVisited(archive)) return;                                                                    \

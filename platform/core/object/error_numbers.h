@@ -16,6 +16,7 @@ public:
     static constexpr long eBadPointer = 0x10000102;
     static constexpr long ePelBadWindow = 0x10000103;
     static constexpr long eAssertionFailed = 0x10000104;
+    static constexpr long eMathOutOfRange = 0x10000105;
 
     static constexpr long eArchiveUnknownVersion = 0x10000201;
     static constexpr long eArchiveNotAnArchive = 0x10000202;

@@ -8,6 +8,11 @@ gkMathError::Singular::~Singular() = default;
 long gkMathError::Singular::errorNumber() const { return gk_ErrorNumber::eMathSingular; }
 void gkMathError::Singular::suicideAndRethrow() { gk_FreeAndThrow(this); }
 
+gkMathError::OutOfRange::OutOfRange(const wchar_t* text) : gkExceptionWithString(text) {}
+gkMathError::OutOfRange::~OutOfRange() = default;
+long gkMathError::OutOfRange::errorNumber() const { return gk_ErrorNumber::eMathOutOfRange; }
+void gkMathError::OutOfRange::suicideAndRethrow() { gk_FreeAndThrow(this); }
+
 gkBadPointer::gkBadPointer(const wchar_t* text) : gkExceptionWithString(text) {}
 gkBadPointer::~gkBadPointer() = default;
 long gkBadPointer::errorNumber() const { return gk_ErrorNumber::eBadPointer; }

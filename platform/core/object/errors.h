@@ -10,6 +10,7 @@
 class gkMathError {
 public:
     class Singular;
+    class OutOfRange;
 
     gkMathError() = delete;
 };
@@ -21,6 +22,17 @@ public:
     Singular(const Singular&) = default;
     Singular& operator=(const Singular&) = default;
     ~Singular() override;
+    long errorNumber() const override;
+    void suicideAndRethrow() override;
+};
+
+/// An element or vertex was asked for that does not exist.
+class GKCNTR_API gkMathError::OutOfRange : public gkExceptionWithString {
+public:
+    explicit OutOfRange(const wchar_t* text = L"there is no element with this index");
+    OutOfRange(const OutOfRange&) = default;
+    OutOfRange& operator=(const OutOfRange&) = default;
+    ~OutOfRange() override;
     long errorNumber() const override;
     void suicideAndRethrow() override;
 };

@@ -1,0 +1,35 @@
+// The named objects of a case and the operations that can be asked of them.
+#ifndef GK_TESTS_REFERENCE_WORLD_H
+#define GK_TESTS_REFERENCE_WORLD_H
+
+#include "cntr/region.h"
+
+#include <nlohmann/json.hpp>
+
+#include <map>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+// The step asks for something that the library does not have (yet).
+struct NotBuilt : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+class World {
+public:
+    // Runs the step and returns its answer; what the operation throws passes through.
+    nlohmann::json ask(const nlohmann::json& step);
+
+private:
+    gkContour& contour(const nlohmann::json& step, const char* key = "on");
+    gkRegion& filledRegion(const nlohmann::json& step);
+    nlohmann::json make(const nlohmann::json& step);
+    nlohmann::json askContour(const nlohmann::json& step);
+    nlohmann::json askContourProtected(const nlohmann::json& step);
+    nlohmann::json askFreeFunction(const nlohmann::json& step);
+
+    std::map<std::string, std::shared_ptr<gkContour>> shapes_;
+};
+
+#endif
