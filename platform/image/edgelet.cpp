@@ -1,0 +1,16 @@
+#include "platform/image/edgelet.h"
+
+gkEdgelet::gkEdgelet(const gkVector<2>& position, unsigned short magnitude, const gkAngle8& angle)
+    : position_(position), magnitude_(magnitude), angle_(angle) {}
+
+const gkVector<2>& gkEdgelet::position() const { return position_; }
+
+unsigned short gkEdgelet::magnitude() const { return magnitude_; }
+
+const gkAngle8& gkEdgelet::angle() const { return angle_; }
+
+bool gkEdgelet::operator==(const gkEdgelet& other) const {
+    return position_ == other.position_ && magnitude_ == other.magnitude_ && angle_ == other.angle_;
+}
+
+bool gkEdgelet::operator!=(const gkEdgelet& other) const { return !(*this == other); }
