@@ -7,11 +7,12 @@ cd "$(dirname "$0")/../.."
 
 bad=0
 refuse() { # what it is, case flag, pattern, find arguments...
-    local what=$1 flag=$2 pattern=$3
+    local what=$1 flag=$2 pattern=$3 found
     shift 3
-    if find . \( -path ./build -o -path ./.git \) -prune -o -type f "$@" -print0 |
-        xargs -0 -r grep -HnIE $flag "$pattern"; then
-        echo "^ $what"
+    found=$(find . \( -path ./build -o -path ./.git \) -prune -o -type f "$@" -print0 |
+        xargs -0 -r grep -HnIE $flag "$pattern" || true)
+    if [ -n "$found" ]; then
+        printf '%s\n^ %s\n' "$found" "$what"
         bad=1
     fi
 }
