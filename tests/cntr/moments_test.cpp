@@ -1,5 +1,6 @@
 // Area, centroid and second moments of vertex lists, with values from mathematics.
 #include "cntr/moments.h"
+#include "platform/core/object/errors.h"
 #include "tests/support/shapes.h"
 
 #include <gtest/gtest.h>

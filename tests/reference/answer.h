@@ -3,6 +3,7 @@
 #define GK_TESTS_REFERENCE_ANSWER_H
 
 #include "cntr/moments.h"
+#include "platform/core/math/xform.h"
 #include "platform/core/shapes/circle.h"
 #include "platform/core/shapes/ellipse.h"
 #include "platform/core/shapes/line_seg.h"

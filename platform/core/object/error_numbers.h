@@ -9,6 +9,7 @@
 /// |---|---|
 /// | 0x10000100 | gkMathError, gkBadPointer, gkPel and the assertion |
 /// | 0x10000200 | gkArchive |
+/// | 0x10000300 | gkUITablet |
 /// | 0x10004680 to 0x10004684 | gkContourDefs, which lists its own |
 class gk_ErrorNumber {
 public:
@@ -34,6 +35,9 @@ public:
     static constexpr long eArchiveReadFailed = 0x1000020E;
     static constexpr long eArchiveWriteFailed = 0x1000020F;
     static constexpr long eArchiveWrongDirection = 0x10000210;
+
+    static constexpr long eUITabletCannotWrite = 0x10000301;
+    static constexpr long eUITabletBadSize = 0x10000302;
 
     gk_ErrorNumber() = delete;
 };
