@@ -1,5 +1,7 @@
 #include "platform/display/uitablet.h"
 
+#include "platform/core/object/rethrow.h"
+
 gkUITablet::~gkUITablet() = default;
 
 void gkUITablet::drawCircle(const gkPair<double>&, double, const gkColor&, const Layers&) {}
@@ -18,22 +20,14 @@ gkUITablet::CannotWrite::CannotWrite(const wchar_t* message) : gkExceptionWithSt
 
 gkUITablet::CannotWrite::~CannotWrite() = default;
 
-long gkUITablet::CannotWrite::errorNumber() const { return 0x10004701; }
+long gkUITablet::CannotWrite::errorNumber() const { return 0x10000301; }
 
-void gkUITablet::CannotWrite::suicideAndRethrow() {
-    const CannotWrite copy(*this);
-    delete this;
-    throw copy;
-}
+void gkUITablet::CannotWrite::suicideAndRethrow() { gk_FreeAndThrow(this); }
 
 gkUITablet::BadSize::BadSize(const wchar_t* message) : gkExceptionWithString(message) {}
 
 gkUITablet::BadSize::~BadSize() = default;
 
-long gkUITablet::BadSize::errorNumber() const { return 0x10004702; }
+long gkUITablet::BadSize::errorNumber() const { return 0x10000302; }
 
-void gkUITablet::BadSize::suicideAndRethrow() {
-    const BadSize copy(*this);
-    delete this;
-    throw copy;
-}
+void gkUITablet::BadSize::suicideAndRethrow() { gk_FreeAndThrow(this); }

@@ -78,9 +78,10 @@ public:
     public:
         explicit CannotWrite(const wchar_t* message);
         CannotWrite(const CannotWrite&) = default;
+        CannotWrite& operator=(const CannotWrite&) = default;
         ~CannotWrite() override;
         long errorNumber() const override;
-        [[noreturn]] void suicideAndRethrow() override;
+        void suicideAndRethrow() override;
     };
 
     /// A width, height, scale or stroke width that is not positive and finite.
@@ -88,9 +89,10 @@ public:
     public:
         explicit BadSize(const wchar_t* message);
         BadSize(const BadSize&) = default;
+        BadSize& operator=(const BadSize&) = default;
         ~BadSize() override;
         long errorNumber() const override;
-        [[noreturn]] void suicideAndRethrow() override;
+        void suicideAndRethrow() override;
     };
 
 protected:
