@@ -12,6 +12,8 @@
 #include <memory>
 #include <string>
 
+class gk_ArchiveReferences;
+
 /// Writes values into bytes or reads them out of bytes; one operator, `||`, does either, as the archive's
 /// direction says.
 ///
@@ -83,7 +85,7 @@ public:
     /// The same bytes as the std::string of the same text. BadValue when the text is not Unicode.
     gkArchive& operator||(std::wstring& value);
     /// One byte.
-    void byte(unsigned char& value);
+    gkArchive& byte(unsigned char& value);
 
     /// Writes an object that no handle holds: number, class name, record. Every call writes an object of its
     /// own.
@@ -114,6 +116,9 @@ public:
     /// beyond 32 bits.
     std::size_t vectorHeader(std::size_t count, std::size_t leastBytes);
 
+    /// The object's record, in place; nothing when it has been visited. `ar || object` goes through here.
+    gkArchive& inPlace(gkPersistent& object);
+
     /// The visited mark of an object; gkPersistent::haveVisited and setVisited go through here.
     bool isVisited(const gkPersistent& object) const;
     void visited(const gkPersistent& object, bool mark);
@@ -134,18 +139,22 @@ protected:
 
 private:
     friend class gk_ArchiveOperation;
-    friend GKCNTR_API gkArchive& operator||(gkArchive& ar, gkPersistent& object);
-    struct State;
 
-    template <int Bytes, class Unsigned> void integer(Unsigned& value);
-    void get(unsigned char* bytes, std::size_t count);
-    void text(std::string& utf8);
-    void dispatch(gkPersistent& object);
-    void dispatchReferenced(gkPersistent& object);
+    void putNumber(std::uint64_t value, int bytes);
+    std::uint64_t getNumber(int bytes);
+    void putText(const std::string& utf8);
+    std::string getText();
+    void take(unsigned char* bytes, std::size_t count);
+    void require(bool loading) const;
+    void writeNew(const gkPersistent& object, const gkRepBase* rep, bool owned);
     gkPersistent* readNew(bool (*fits)(gkPersistent*));
+    void endOperation(bool completed) noexcept;
 
     bool loading_;
-    std::unique_ptr<State> state_;
+    bool failed_ = false;
+    int operations_ = 0;
+    std::size_t firstOfOperation_ = 0;
+    std::unique_ptr<gk_ArchiveReferences> references_;
 };
 
 /// One operation on an archive that may contain others. When the outermost one ends without complete(), an

@@ -15,10 +15,9 @@ public:
     ~gk_ArchiveBuffer() override;
 
 protected:
-    /// Saves, beginning with the header.
-    gk_ArchiveBuffer();
-    /// Loads from `bytes`, whose header is checked: throws NotAnArchive, UnknownFormat or Truncated.
-    explicit gk_ArchiveBuffer(std::vector<unsigned char> bytes);
+    /// Saves, beginning with the header, or loads from `bytes`, whose header is checked: throws NotAnArchive,
+    /// UnknownFormat or Truncated.
+    explicit gk_ArchiveBuffer(Direction direction, std::vector<unsigned char> bytes = {});
 
     const std::vector<unsigned char>& buffer() const { return bytes_; }
 

@@ -1,0 +1,44 @@
+#include "platform/core/archive/archive_file.h"
+
+#include <fstream>
+#include <ios>
+#include <system_error>
+#include <vector>
+
+namespace {
+
+std::vector<unsigned char> readAll(const std::filesystem::path& path) {
+    std::error_code error;
+    // A directory opens as a stream on some systems, and a pipe has no size.
+    if (!std::filesystem::is_regular_file(path, error)) throw gkArchive::CannotOpen();
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw gkArchive::CannotOpen();
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    if (error || size > std::vector<unsigned char>().max_size()) throw gkArchive::ReadFailed();
+    std::vector<unsigned char> bytes(static_cast<std::size_t>(size));
+    in.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    if (static_cast<std::uintmax_t>(in.gcount()) != size) throw gkArchive::ReadFailed();
+    return bytes;
+}
+
+} // namespace
+
+gkArchiveFile::gkArchiveFile(const std::filesystem::path& path, Mode mode)
+    : gk_ArchiveBuffer(mode == eLoad ? Direction::eLoad : Direction::eSave,
+                       mode == eLoad ? readAll(path) : std::vector<unsigned char>()),
+      path_(path) {}
+
+gkArchiveFile::~gkArchiveFile() = default;
+
+void gkArchiveFile::close() {
+    if (closed_) return;
+    finish();
+    if (isSaving()) {
+        std::ofstream out(path_, std::ios::binary | std::ios::trunc);
+        out.write(reinterpret_cast<const char*>(buffer().data()),
+                  static_cast<std::streamsize>(buffer().size()));
+        out.close();
+        if (!out) throw WriteFailed();
+    }
+    closed_ = true;
+}
