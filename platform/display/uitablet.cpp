@@ -1,5 +1,6 @@
 #include "platform/display/uitablet.h"
 
+#include "platform/core/object/error_numbers.h"
 #include "platform/core/object/rethrow.h"
 
 gkUITablet::~gkUITablet() = default;
@@ -20,7 +21,7 @@ gkUITablet::CannotWrite::CannotWrite(const wchar_t* message) : gkExceptionWithSt
 
 gkUITablet::CannotWrite::~CannotWrite() = default;
 
-long gkUITablet::CannotWrite::errorNumber() const { return 0x10000301; }
+long gkUITablet::CannotWrite::errorNumber() const { return gk_ErrorNumber::eUITabletCannotWrite; }
 
 void gkUITablet::CannotWrite::suicideAndRethrow() { gk_FreeAndThrow(this); }
 
@@ -28,6 +29,6 @@ gkUITablet::BadSize::BadSize(const wchar_t* message) : gkExceptionWithString(mes
 
 gkUITablet::BadSize::~BadSize() = default;
 
-long gkUITablet::BadSize::errorNumber() const { return 0x10000302; }
+long gkUITablet::BadSize::errorNumber() const { return gk_ErrorNumber::eUITabletBadSize; }
 
 void gkUITablet::BadSize::suicideAndRethrow() { gk_FreeAndThrow(this); }
