@@ -179,7 +179,7 @@ TEST(ContourArchive, UnknownVectorFormHasNoTextAndNumber0) {
         load(withHeader(atOffset(kVersion1, 7, "01")), contour);
         FAIL() << "nothing was thrown";
     } catch (const gkArchive::UnknownVersion& error) {
-        EXPECT_EQ("", error.text());
+        EXPECT_STREQ("", error.text());
         EXPECT_EQ(0, error.number());
     }
 }

@@ -37,7 +37,7 @@ Json World::ask(const Json& step) {
 
 gkContour& World::contour(const Json& step, const char* key) {
     const auto shape = shapes_.find(step.at(key).get<std::string>());
-    if (shape == shapes_.end()) throw NotBuilt("an object that was not built");
+    if (shape == shapes_.end() || !shape->second) throw NotBuilt("an object that was not built");
     return *shape->second;
 }
 
