@@ -15,10 +15,14 @@ double reduced(double value, double turn) {
     return rest == 0.0 ? 0.0 : rest;
 }
 
-unsigned char nearestStep(double turns) {
-    const double fraction = reduced(turns, 1.0);
-    if (std::isnan(fraction)) return 0;
-    return static_cast<unsigned char>(static_cast<int>(std::floor(fraction * 256.0 + 0.5)) % 256);
+// The signed remainder is exact and the comparison with the half is too; adding 0.5 before rounding down would
+// lift the greatest double below a half.
+unsigned char nearestStep(double value, double turn) {
+    const double steps = std::fmod(value, turn) / turn * 256.0;
+    if (std::isnan(steps)) return 0;
+    const double below = std::floor(steps);
+    const double nearest = steps - below >= 0.5 ? below + 1.0 : below;
+    return static_cast<unsigned char>(static_cast<int>(nearest) & 255);
 }
 
 } // namespace
@@ -35,6 +39,6 @@ gkDegree::gkDegree(const gkAngle8& angle) : value_(angle.toByte() * 360.0 / 256.
 
 gkDegree gkDegree::norm() const { return gkDegree(reduced(value_, 360.0)); }
 
-gkAngle8::gkAngle8(const gkRadian& angle) : value_(nearestStep(angle.toDouble() / kTwoPi)) {}
+gkAngle8::gkAngle8(const gkRadian& angle) : value_(nearestStep(angle.toDouble(), kTwoPi)) {}
 
-gkAngle8::gkAngle8(const gkDegree& angle) : value_(nearestStep(angle.toDouble() / 360.0)) {}
+gkAngle8::gkAngle8(const gkDegree& angle) : value_(nearestStep(angle.toDouble(), 360.0)) {}

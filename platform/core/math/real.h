@@ -7,7 +7,8 @@
 
 /// True when `a` and `b` are equal or differ by at most `eps` (an absolute difference, the bound included).
 ///
-/// Equal infinities are equal; NaN equals nothing. Never throws.
+/// Equal infinities are equal; NaN equals nothing. The difference is the rounded one of double arithmetic, so beside
+/// values far larger than `eps` the bound is only as sharp as their last place. Never throws.
 GKCNTR_API bool gfRealEq(double a, double b, double eps);
 
 /// The greatest integer not above `value`, as a `long`.

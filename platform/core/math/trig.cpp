@@ -63,12 +63,13 @@ Reduced reduceFewTurns(double radians) {
     constexpr double part2 = 0x1.0b4611a6p-34;
     constexpr double part3 = 0x1.3198a2ep-69;
     constexpr double part4 = 0x1.b839a252049c1p-104;
-    const double turns = std::floor(radians * 0x1.45f306dc9c883p-1 + 0.5);
+    const int quadrant = static_cast<int>(radians * 0x1.45f306dc9c883p-1 + (radians < 0.0 ? -0.5 : 0.5));
+    const double turns = quadrant;
     // The first difference is exact. Where one of the others cancels, the error terms before it are 0.
     const Pair second = twoSum(radians - turns * part1, -(turns * part2));
     const Pair third = twoSum(second.hi, -(turns * part3));
     const double tail = (second.lo + third.lo) - turns * part4;
-    return {static_cast<unsigned>(static_cast<int>(turns)) & 3U, fastTwoSum(third.hi, tail)};
+    return {static_cast<unsigned>(quadrant) & 3U, fastTwoSum(third.hi, tail)};
 }
 
 // 2/pi in base 2^32, the first two digits being those above the binary point: enough for an exponent of 1023.
@@ -176,18 +177,13 @@ gk_Trig::SinCos inFirstOctants(const Pair& rest) {
     return {sine, cosine};
 }
 
+// Selections instead of branches: the quadrants of a sequence of angles cannot be predicted.
 gk_Trig::SinCos inQuadrant(const Reduced& angle) {
+    constexpr double signs[] = {1.0, 1.0, -1.0, -1.0, 1.0};
     const gk_Trig::SinCos rest = inFirstOctants(angle.rest);
-    switch (angle.quadrant) {
-    case 0:
-        return rest;
-    case 1:
-        return {rest.cos, -rest.sin};
-    case 2:
-        return {-rest.sin, -rest.cos};
-    default:
-        return {-rest.cos, rest.sin};
-    }
+    const bool swap = (angle.quadrant & 1U) != 0;
+    return {(swap ? rest.cos : rest.sin) * signs[angle.quadrant],
+            (swap ? rest.sin : rest.cos) * signs[angle.quadrant + 1]};
 }
 
 // atan(i / 32).
@@ -227,8 +223,19 @@ constexpr Pair kArcTangent[] = {
     {0x1.921fb54442d18p-1, 0x1.1a62633145c07p-55},
 };
 
-// base + arctangent of the ratio min / max, or base - arctangent when sign is -1; 0 <= min <= max.
-double besideBase(const Pair& base, double sign, double min, double max) {
+// An angle is base.hi + base.lo + sign * arctangent of a ratio in [0, 1].
+struct Octant {
+    Pair base;
+    double sign;
+};
+
+// By (|y| > |x|) * 2 + (x < 0).
+constexpr Octant kOctants[] = {{{0.0, 0.0}, 1.0}, {kPi, -1.0}, {kHalfPi, -1.0}, {kHalfPi, 1.0}};
+
+// 0 <= min <= max.
+double angleIn(const Octant& octant, double min, double max) {
+    const Pair base = octant.base;
+    const double sign = octant.sign;
     const double ratio = min / max;
     if (ratio < 0x1p-30)
         return base.hi + (base.lo + sign * ratio); // the cubic term is below 2^-61 of the ratio
@@ -274,23 +281,18 @@ SinCos sinCos(double radians) {
 
 double atan2(double y, double x) {
     if (std::isnan(x) || std::isnan(y)) return x + y;
-    double min = std::fabs(y);
-    double max = std::fabs(x);
-    const bool steep = min > max;
-    if (steep) std::swap(min, max);
+    const double ax = std::fabs(x);
+    const double ay = std::fabs(y);
+    double min = ax < ay ? ax : ay;
+    double max = ax < ay ? ay : ax;
     if (max == 0.0) return 0.0;
     if (std::isinf(max)) {
         min = std::isinf(min) ? 1.0 : 0.0;
         max = 1.0;
     }
-    double angle = 0.0;
-    if (steep)
-        angle = besideBase(kHalfPi, x < 0.0 ? 1.0 : -1.0, min, max);
-    else if (x < 0.0)
-        angle = besideBase(kPi, -1.0, min, max);
-    else
-        angle = besideBase({0.0, 0.0}, 1.0, min, max);
-    return (y < 0.0 ? -angle : angle) + 0.0; // a result of zero is always +0
+    const double angle = angleIn(kOctants[(ax < ay ? 2 : 0) + (x < 0.0 ? 1 : 0)], min, max);
+    // Adding 0 turns -0 into +0: once in y, where it must not give -pi, and once in a result that underflowed.
+    return std::copysign(angle, y + 0.0) + 0.0;
 }
 
 } // namespace gk_Trig
