@@ -50,7 +50,12 @@ double badNumber(Random& random) {
 
 namespace gen {
 
-Points tiny(Random& random) { return scaled(ordinary(random), 1e-9); }
+// Down to where areas and then whole edges fall below the tolerances.
+Points tiny(Random& random) {
+    const double scales[] = {1e-9, 1e-8, 1e-6, 1e-5, 3e-5, 1e-4, 1e-3};
+    const double scale = random.chance(0.5) ? scales[0] : scales[random.index(7)];
+    return scaled(ordinary(random), scale);
+}
 
 Points big(Random& random) { return scaled(ordinary(random), 1e9); }
 

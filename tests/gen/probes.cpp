@@ -53,6 +53,22 @@ gkVector<2> inside(Random& random, const Box& box) {
     return gkVector<2>(random.between(box.low.x(), box.high.x()), random.between(box.low.y(), box.high.y()));
 }
 
+// Segments that decide at the touching distance: across the edge from exactly 1e-6 (or an ulp beside) before
+// it, and across its line exactly that far beyond its start. Exact where the edge lies along an axis through
+// the origin.
+void addAtTouchingDistance(Random& random, const gkLineSeg& edge, std::vector<gkLineSeg>& list) {
+    const gkVector<2> left = leftOf(edge);
+    const gkVector<2> along(left.y(), -left.x());
+    const double distances[] = {std::nextafter(kTouch, 0.0), kTouch, std::nextafter(kTouch, 1.0)};
+    const double distance = distances[random.index(3)];
+    const gkVector<2> beside = midpoint(edge) - left * distance;
+    const gkVector<2> beyond = edge.p1() - along * distance;
+    list.emplace_back(beside, midpoint(edge) + left);
+    list.emplace_back(midpoint(edge) + left, beside);
+    list.emplace_back(beyond - left, beyond + left);
+    list.emplace_back(edge.p1() + left, beside);
+}
+
 void addBesideEdges(Random& random, const Points& points, Points& probes) {
     for (int i = 0; i < 8; ++i) {
         const gkLineSeg edge = someEdge(random, points);
@@ -124,7 +140,7 @@ std::vector<gkLineSeg> querySegments(const Points& points, std::uint64_t seed) {
         list.emplace_back(vertex - away, vertex + away);
         list.emplace_back(vertex, points[random.index(points.size())]);
         list.emplace_back(vertex, vertex);
-        // Through the one vertex shared by two edges, ending there.
+        addAtTouchingDistance(random, edge, list);
         list.emplace_back(inside(random, box), vertex);
     }
     return list;

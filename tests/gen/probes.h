@@ -16,7 +16,8 @@ namespace gen {
 Points probes(const Points& points, std::uint64_t seed);
 
 // The shape's own edges, also reversed, extended and shifted along themselves; segments through vertices,
-// ending on an edge or 1e-6 before it, long ones across the shape, ones of length zero, ones beside the shape.
+// ending on an edge or 1e-6 before or beyond it, long ones across the shape, ones of length zero, ones beside
+// the shape.
 std::vector<gkLineSeg> querySegments(const Points& points, std::uint64_t seed);
 
 // Tolerances for nearness: the spacing of vertices, 1e-6, a size that holds all, one that holds none.
