@@ -14,7 +14,7 @@
 /// The modes and errors of gfEllipseFit.
 class GKCNTR_API gkEllipseFitDefs {
 public:
-    enum fit_mode {
+    enum fit_mode : int {
         /// Least squares of the algebraic distance a x^2 + b x y + c y^2 + d x + e y + f under 4 a c - b^2 = 1:
         /// always an
         /// ellipse, unchanged by any affine map, somewhat too small for short and noisy arcs.
