@@ -43,18 +43,21 @@ protected:
     gk_Handle(const gk_Handle&) noexcept = default;
     gk_Handle(gk_Handle&& other) noexcept
         : object_(std::exchange(other.object_, nullptr)), hold_(std::move(other.hold_)) {}
-    gk_Handle& operator=(const gk_Handle& other) noexcept { return take(other.object_, other.hold_); }
+    // Through a copy: the former object is let go last, when this handle is whole again.
+    gk_Handle& operator=(const gk_Handle& other) noexcept {
+        gk_Handle(other).swap(*this);
+        return *this;
+    }
     gk_Handle& operator=(gk_Handle&& other) noexcept {
-        return take(std::exchange(other.object_, nullptr), std::move(other.hold_));
+        gk_Handle(std::move(other)).swap(*this);
+        return *this;
     }
     ~gk_Handle() = default;
 
 private:
-    // The former object is let go last, when this handle is whole again.
-    gk_Handle& take(Object* object, gk_RepHold hold) noexcept {
-        object_ = object;
-        hold_.swap(hold);
-        return *this;
+    void swap(gk_Handle& other) noexcept {
+        std::swap(object_, other.object_);
+        hold_.swap(other.hold_);
     }
 
     Object* object_ = nullptr;
