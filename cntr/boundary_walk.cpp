@@ -45,8 +45,8 @@ WalkState stepped(gk_Outline& outline, const WalkState& state) {
     return {target, gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n), state.forward};
 }
 
-// Brent's method: a state met again proves a loop. The state to compare with is replaced after 1, 2, 4, ... steps, so
-// any loop is found within a few of its lengths, with one state kept.
+// Brent's method: a state met again proves a loop. The state to compare with is replaced after 1, 2, 4, ...
+// steps, so any loop is found within a few of its lengths, with one state kept.
 class LoopDetector {
 public:
     explicit LoopDetector(const WalkState& first) : kept_(first) {}

@@ -45,7 +45,9 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     return caches_.circles[slot];
 }
 
-double gkContour::diameter(gkContourDefs::DiameterMode mode) const { return 2.0 * encloseCircle(mode).radius(); }
+double gkContour::diameter(gkContourDefs::DiameterMode mode) const {
+    return 2.0 * encloseCircle(mode).radius();
+}
 
 long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     checkEmptyContour();
@@ -53,7 +55,8 @@ long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     const auto entry = known.find(angle);
     if (entry != known.end()) return entry->second;
     const long index = gk_ExtremalVertex(value_.points, angle);
-    gk_InsertBounded(known, angle, static_cast<std::int32_t>(index), static_cast<std::size_t>(cachedVectorSize()));
+    gk_InsertBounded(known, angle, static_cast<std::int32_t>(index),
+                     static_cast<std::size_t>(cachedVectorSize()));
     mutating();
     return index;
 }

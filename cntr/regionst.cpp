@@ -10,20 +10,23 @@ std::vector<gkPtrHandle_const<gkRegion>> readOnly(const std::vector<gkPtrHandle<
 
 } // namespace
 
-gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle_const<gkRegion>>& regions, gkContourDefs::IntersectionMode mode)
+gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle_const<gkRegion>>& regions,
+                         gkContourDefs::IntersectionMode mode)
     : regions_(regions) {
     gkRegionSet::makeDataConsistentWithPoints();
     repair(mode);
 }
 
-gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle<gkRegion>>& regions, gkContourDefs::IntersectionMode mode)
+gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle<gkRegion>>& regions,
+                         gkContourDefs::IntersectionMode mode)
     : gkRegionSet(readOnly(regions), mode) {}
 
 gkRegionSet::gkRegionSet(std::initializer_list<gkPtrHandle_const<gkRegion>> regions,
                          gkContourDefs::IntersectionMode mode)
     : gkRegionSet(Regions(regions), mode) {}
 
-gkRegionSet::gkRegionSet(const gkRegionSet& other) : gkPersistent(other), gkRepBase(other), regions_(), caches_() {
+gkRegionSet::gkRegionSet(const gkRegionSet& other)
+    : gkPersistent(other), gkRepBase(other), regions_(), caches_() {
     gkRegionSet::operator=(other);
 }
 
@@ -56,7 +59,8 @@ void gkRegionSet::regions(const std::vector<gkPtrHandle_const<gkRegion>>& region
     repair(mode);
 }
 
-void gkRegionSet::regions(const std::vector<gkPtrHandle<gkRegion>>& regions, gkContourDefs::IntersectionMode mode) {
+void gkRegionSet::regions(const std::vector<gkPtrHandle<gkRegion>>& regions,
+                          gkContourDefs::IntersectionMode mode) {
     gkRegionSet::regions(readOnly(regions), mode);
 }
 

@@ -174,7 +174,8 @@ TEST(GridCell, RoundsNegativeCoordinatesSymmetrically) {
 }
 
 TEST(GridCell, IsTheIntegerPartOfTheQuotientPlusAHalf) {
-    EXPECT_EQ(1, gk_GridCell(0.49999999999999994, 1.0)); // the sum rounds up to 1; no rounding function's answer
+    EXPECT_EQ(1,
+              gk_GridCell(0.49999999999999994, 1.0)); // the sum rounds up to 1; no rounding function's answer
     EXPECT_EQ(-1, gk_GridCell(-0.49999999999999994, 1.0));
     EXPECT_EQ(3, gk_GridCell(5.0, 2.0));
 }
@@ -185,7 +186,9 @@ TEST(GridCell, SaturatesInsteadOfOverflowing) {
     EXPECT_EQ(2148000000, gk_GridCell(2148, 1e-6));
 }
 
-TEST(MedianFeatureSize, OfASquareIsItsSide) { EXPECT_EQ(1.0, closed("0 0, 1 0, 1 1, 0 1").medianFeatureSize()); }
+TEST(MedianFeatureSize, OfASquareIsItsSide) {
+    EXPECT_EQ(1.0, closed("0 0, 1 0, 1 1, 0 1").medianFeatureSize());
+}
 
 TEST(MedianFeatureSize, OfAnEvenCountIsTheUpperMiddle) {
     EXPECT_EQ(3.0, open("0 0, 1 0, 3 0, 6 0, 10 0").medianFeatureSize());

@@ -13,7 +13,8 @@ class GKCNTR_API gk2Rigid {
 public:
     /// The identity.
     gk2Rigid() = default;
-    gk2Rigid(const gkRadian& angle, const gkVector<2>& translation) : angle_(angle), translation_(translation) {}
+    gk2Rigid(const gkRadian& angle, const gkVector<2>& translation)
+        : angle_(angle), translation_(translation) {}
 
     const gkRadian& angle() const { return angle_; }
     const gkVector<2>& translation() const { return translation_; }

@@ -11,7 +11,8 @@
 
 /// A mapping of points, linear or not. Objects are held by handles and not changed once they are shared.
 ///
-/// Derive from it for lens models and the like; register the class with gk_Instantiator when it is to be archived.
+/// Derive from it for lens models and the like; register the class with gk_Instantiator when it is to be
+/// archived.
 class GKCNTR_API gk2XformBase : public virtual gkPersistent, public virtual gkRepBase {
 public:
     ~gk2XformBase() override;
