@@ -70,17 +70,17 @@ gkContour::gkContour(const std::vector<gkVector<2>>& points, bool closed, unsign
     value_.label = fittingLabel(label);
     value_.closed = closed;
     value_.points = points;
-    gkContour::makeDataConsistentWithPoints();
+    gkContour::cleanCacheInfo();
 }
 
 gkContour::gkContour(const gkPolygon& polygon, unsigned long label) {
     value_.label = fittingLabel(label);
     value_.points = polygon.vertices();
     value_.closed = gfRealEq(polygon[0], polygon[polygon.size() - 1], 1e-15);
-    gkContour::makeDataConsistentWithPoints();
+    gkContour::cleanCacheInfo();
 }
 
-gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(other), value_(), caches_() {
+gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(other), value_() {
     gkContour::operator=(other);
 }
 

@@ -9,7 +9,7 @@
 // A crossing point and the outline's segment on which it was found.
 struct gk_Crossing {
     gkVector<2> point;
-    int segment;
+    int segment = 0;
 };
 
 // The crossings of `seg` with the outline's segments, in segment order. A crossing at an outline's vertex is

@@ -23,7 +23,7 @@ struct LocalInertia {
 };
 
 LocalInertia baseApexTriangleInertia(double left, double right, double height) {
-    LocalInertia local;
+    LocalInertia local{};
     local.area = (left + right) * height / 2.0;
     local.centerX = (right - left) / 3.0;
     local.centerY = height / 3.0;

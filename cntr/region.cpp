@@ -19,8 +19,7 @@ gkRegion::gkRegion(const gkContour& contour, gkContourDefs::IntersectionMode mod
 }
 
 gkRegion::gkRegion(const gkRegion& other)
-    : gkPersistent(other), gkRepBase(other), gkContour(std::vector<gkVector<2>>(), true, 0), holes_(),
-      caches_() {
+    : gkPersistent(other), gkRepBase(other), gkContour(std::vector<gkVector<2>>(), true, 0), caches_() {
     gkRegion::operator=(other);
 }
 
