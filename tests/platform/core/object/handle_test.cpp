@@ -88,10 +88,10 @@ TEST_F(HandleTest, IsNullByDefault) {
 TEST_F(HandleTest, ThatIsNullThrowsWhenDereferenced) {
     const gkPtrHandle<Base> handle;
     const gkPtrHandle_const<Base> constHandle;
-    EXPECT_THROW(handle->value, gkBadPointer);
-    EXPECT_THROW((*handle).value, gkBadPointer);
-    EXPECT_THROW(constHandle->value, gkBadPointer);
-    EXPECT_THROW((*constHandle).value, gkBadPointer);
+    EXPECT_THROW(static_cast<void>(handle->value), gkBadPointer);
+    EXPECT_THROW(static_cast<void>((*handle).value), gkBadPointer);
+    EXPECT_THROW(static_cast<void>(constHandle->value), gkBadPointer);
+    EXPECT_THROW(static_cast<void>((*constHandle).value), gkBadPointer);
 }
 
 TEST_F(HandleTest, FreesTheObjectWithTheLastHolder) {
