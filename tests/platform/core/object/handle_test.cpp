@@ -175,9 +175,11 @@ TEST_F(HandleTest, OfACopiedObjectCountsTheCopyAnew) {
     const gkPtrHandle<Base> first(new Base(3));
     const gkPtrHandle<Base> copy(new Base(*first));
     EXPECT_EQ(1, copy->references());
+    const gkPtrHandle<Base> again = first;
     *copy = *first;
     EXPECT_EQ(1, copy->references());
-    EXPECT_EQ(1, first->references());
+    EXPECT_EQ(2, first->references());
+    EXPECT_EQ(0, Base(*first).references());
 }
 
 TEST_F(HandleTest, CanBeTakenOnAnObjectThatIsHeldAlready) {
