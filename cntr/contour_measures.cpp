@@ -32,7 +32,7 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     if (mode != gkContourDefs::eExact && mode != gkContourDefs::eApproximate) {
         throw gkContourDefs::BadParams(L"diameterMode is not one of the valid enums");
     }
-    const std::size_t slot = mode;
+    const auto slot = static_cast<std::size_t>(mode);
     if (caches_.circleValid[slot]) return caches_.circles[slot];
     if (mode == gkContourDefs::eExact) {
         gk_CircleOverFarthestPair(value_.points, caches_.circles[slot]);
