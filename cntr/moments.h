@@ -5,9 +5,18 @@
 /// last vertex back to the first is always implied.
 ///
 /// Sums are anchored at the coordinate origin, so a small polygon far away loses digits: with side a at
-/// distance d the centroid's error grows like u d^3 / a^2 and the area's like u d a, u = 2^-53. A 10-unit
-/// square is off by about 1e-13 in its centroid at offset 1e1, 1e-8 at 1e4 to 1e5 and 8e-2 at 1e8. Shift such
-/// input to its first vertex beforehand (examples/far_away shows how).
+/// distance d the centroid's error grows like u d^3 / a^2 and the area's like u d^2, u = 2^-53. A 10-unit
+/// square is off by up to
+///
+/// | distance | centroid | area | centroid, vertices at whole numbers |
+/// |---|---|---|---|
+/// | 1e2 | 1e-12 | 1e-12 | 1e-13 |
+/// | 1e4 | 1e-6 | 1e-8 | 1e-9 |
+/// | 1e6 | 1 | 1e-4 | 1e-5 |
+/// | 1e8 | 1e6 | 1 | 1e-1 |
+///
+/// (of vertices at whole numbers, such as pixels, the area is exact that far). Shift such input to its first
+/// vertex beforehand (examples/far_away shows how).
 #ifndef GK_CNTR_MOMENTS_H
 #define GK_CNTR_MOMENTS_H
 
@@ -82,7 +91,11 @@ GKCNTR_API gkVector<2> gf_CenterOfMass(const std::vector<gkEdgelet>& edgelets);
 /// For a clockwise polygon the area is negative, and the moments are true only when no triangle of the fan is
 /// reversed (the outline is star-shaped from its centroid): the signs of gk_InertiaData's operator+ then
 /// subtract what they should add. This is the defined result, not to be mended by turning the outline around;
-/// turn the vertices yourself when you need true moments. Cost: O(n).
+/// turn the vertices yourself when you need true moments.
+///
+/// A triangle's base is found with a slack of 1e-10: an apex that falls up to sqrt(2e-10 h) beside it, h being
+/// the triangle's height, counts as within, and the triangle is too large by that share (some 1e-5 at unit
+/// size). Scale small shapes up. Cost: O(n).
 GKCNTR_API gk_InertiaData gf_InertiaDataPolygon(const std::vector<gkVector<2>>& points);
 
 /// The solid ellipse with the same centre and the same second moments; the record's area plays no part.

@@ -22,6 +22,9 @@ public:
     // first use.
     std::vector<int> near(const std::vector<gkVector<2>>& points, const gkVector<2>& p, double tolerance);
 
+    // The grid of this tolerance has been built already.
+    bool holds(double tolerance) const { return find(tolerance) != nullptr; }
+
     // The number of grids held, one per distinct tolerance.
     std::size_t count() const { return grids_.size(); }
 
@@ -32,6 +35,7 @@ private:
         std::map<Cell, std::vector<int>> cells;
     };
 
+    const Grid* find(double tolerance) const;
     const Grid& grid(const std::vector<gkVector<2>>& points, double tolerance);
 
     std::vector<Grid> grids_;

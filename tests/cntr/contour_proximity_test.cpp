@@ -129,6 +129,19 @@ TEST(VertexIndex, KeepsOneGridPerTolerance) {
     EXPECT_EQ(2u, grids.count());
 }
 
+TEST(VertexIndex, MarksTheContourChangedOnlyWhenItBuildsAGrid) {
+    const gkContour contour = open("0 0, 3 4");
+    const auto marks = [&](double tolerance) {
+        contour.clearChanged();
+        contour.vertexIndex({0, 0}, tolerance);
+        return contour.isChanged();
+    };
+    EXPECT_TRUE(marks(1.0));
+    EXPECT_FALSE(marks(1.0));
+    EXPECT_TRUE(marks(2.0));
+    EXPECT_FALSE(marks(1.0));
+}
+
 TEST(VertexIndex, FollowsAMovedVertex) {
     gkContour contour = open("0 0, 3 4");
     EXPECT_EQ((std::vector<int>{0}), contour.vertexIndex({0, 0}, 1.0));
