@@ -1,0 +1,74 @@
+#include "examples/demo/outlines.h"
+
+#include "cntr/moments.h"
+#include "examples/demo/background.h"
+#include "examples/demo/reading_order.h"
+
+#include <opencv2/imgproc.hpp>
+
+namespace {
+
+// Grey levels between objects and background below which there is nothing but noise.
+constexpr double kLeastContrast = 16;
+
+cv::Mat disc(int diameter) {
+    return cv::getStructuringElement(cv::MORPH_ELLIPSE, cv::Size(diameter, diameter));
+}
+
+cv::Mat threshold(const cv::Mat& difference) {
+    double darkest = 0.0;
+    double brightest = 0.0;
+    cv::minMaxLoc(difference, &darkest, &brightest);
+    if (brightest - darkest < kLeastContrast) return cv::Mat(difference.size(), CV_8U, cv::Scalar(0));
+    cv::Mat bytes;
+    cv::Mat mask;
+    cv::normalize(difference, bytes, 0, 255, cv::NORM_MINMAX, CV_8U);
+    cv::threshold(bytes, mask, 0, 255, cv::THRESH_BINARY | cv::THRESH_OTSU);
+    const double above = cv::mean(difference, mask)[0];
+    const double below = cv::mean(difference, mask == 0)[0];
+    if (above - below < kLeastContrast) return cv::Mat(difference.size(), CV_8U, cv::Scalar(0));
+    if (marksBorder(mask)) cv::bitwise_not(mask, mask);
+    return mask;
+}
+
+std::vector<std::vector<cv::Point>> outerBorders(const cv::Mat& mask) {
+    std::vector<std::vector<cv::Point>> borders;
+    cv::findContours(mask, borders, cv::RETR_EXTERNAL, cv::CHAIN_APPROX_NONE);
+    return borders;
+}
+
+// Objects without holes and hairs: gaps in the rim are closed, insides filled, and what is thinner than the
+// last disc goes, so that an outline runs around its object once.
+cv::Mat solid(const cv::Mat& mask) {
+    cv::Mat closed;
+    cv::morphologyEx(mask, closed, cv::MORPH_CLOSE, disc(5));
+    cv::Mat filled(mask.size(), CV_8U, cv::Scalar(0));
+    cv::drawContours(filled, outerBorders(closed), -1, cv::Scalar(255), cv::FILLED);
+    cv::morphologyEx(filled, filled, cv::MORPH_OPEN, disc(7));
+    return filled;
+}
+
+std::vector<gkVector<2>> pixelCentres(const std::vector<cv::Point>& border) {
+    std::vector<gkVector<2>> centres;
+    centres.reserve(border.size());
+    for (const cv::Point& pixel : border) centres.emplace_back(pixel.x + 0.5, pixel.y + 0.5);
+    return centres;
+}
+
+} // namespace
+
+std::vector<gkContour> findOutlines(const cv::Mat& picture, double leastArea) {
+    cv::Mat gray;
+    cv::cvtColor(picture, gray, cv::COLOR_BGR2GRAY);
+    cv::GaussianBlur(gray, gray, cv::Size(5, 5), 0);
+    const cv::Mat mask = solid(threshold(withoutBackground(gray)));
+
+    std::vector<gkContour> outlines;
+    for (const std::vector<cv::Point>& border : outerBorders(mask)) {
+        const std::vector<gkVector<2>> vertices = pixelCentres(border);
+        if (gf_Area(vertices) >= leastArea) outlines.emplace_back(vertices, true, 0);
+    }
+    sortForReading(outlines);
+    for (std::size_t i = 0; i < outlines.size(); ++i) outlines[i].label(i + 1);
+    return outlines;
+}
