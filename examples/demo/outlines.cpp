@@ -2,6 +2,7 @@
 
 #include "cntr/moments.h"
 #include "examples/demo/background.h"
+#include "examples/demo/own_threshold.h"
 #include "examples/demo/reading_order.h"
 
 #include <opencv2/imgproc.hpp>
@@ -15,19 +16,21 @@ cv::Mat disc(int diameter) {
     return cv::getStructuringElement(cv::MORPH_ELLIPSE, cv::Size(diameter, diameter));
 }
 
-cv::Mat threshold(const cv::Mat& difference) {
-    double darkest = 0.0;
-    double brightest = 0.0;
-    cv::minMaxLoc(difference, &darkest, &brightest);
-    if (brightest - darkest < kLeastContrast) return cv::Mat(difference.size(), CV_8U, cv::Scalar(0));
+bool isFlat(const cv::Mat& difference, const cv::Mat& mask) {
+    return cv::mean(difference, mask)[0] - cv::mean(difference, mask == 0)[0] < kLeastContrast;
+}
+
+// What stands out, roughly; turns `difference` around where the objects are darker than the background.
+cv::Mat roughMask(cv::Mat& difference) {
     cv::Mat bytes;
     cv::Mat mask;
     cv::normalize(difference, bytes, 0, 255, cv::NORM_MINMAX, CV_8U);
     cv::threshold(bytes, mask, 0, 255, cv::THRESH_BINARY | cv::THRESH_OTSU);
-    const double above = cv::mean(difference, mask)[0];
-    const double below = cv::mean(difference, mask == 0)[0];
-    if (above - below < kLeastContrast) return cv::Mat(difference.size(), CV_8U, cv::Scalar(0));
-    if (marksBorder(mask)) cv::bitwise_not(mask, mask);
+    if (isFlat(difference, mask)) return cv::Mat(difference.size(), CV_8U, cv::Scalar(0));
+    if (marksBorder(mask)) {
+        cv::bitwise_not(mask, mask);
+        difference = -difference;
+    }
     return mask;
 }
 
@@ -61,7 +64,9 @@ std::vector<gkContour> findOutlines(const cv::Mat& picture, double leastArea) {
     cv::Mat gray;
     cv::cvtColor(picture, gray, cv::COLOR_BGR2GRAY);
     cv::GaussianBlur(gray, gray, cv::Size(5, 5), 0);
-    const cv::Mat mask = solid(threshold(withoutBackground(gray)));
+    cv::Mat difference = withoutBackground(gray);
+    const cv::Mat rough = solid(roughMask(difference));
+    const cv::Mat mask = solid(withOwnThresholds(difference, rough));
 
     std::vector<gkContour> outlines;
     for (const std::vector<cv::Point>& border : outerBorders(mask)) {
