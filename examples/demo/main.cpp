@@ -49,7 +49,8 @@ void run(const Options& options) {
     makeFolder(options.folder);
     keep(options.folder / (name + "_contours.gka"), outlines);
     for (const std::filesystem::path& file :
-         savePictures(options.folder / (name + "_measured"), photographOf(picture), outlines, objects))
+         savePictures(options.folder / (name + "_measured"), photographOf(picture), outlines, objects,
+                      options.wantedSide))
         std::cout << file.string() << " written.\n";
 }
 

@@ -9,6 +9,7 @@ struct Options {
     std::filesystem::path image;
     std::filesystem::path folder; // where the results go
     double leastArea = 64.0;      // of an object, in square pixels
+    double wantedSide = 1600.0;   // of the pictures written, in pixels
 };
 
 // Throws Failure for what is not understood.

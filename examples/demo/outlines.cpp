@@ -5,19 +5,30 @@
 #include "examples/demo/own_threshold.h"
 #include "examples/demo/reading_order.h"
 
+#include <algorithm>
+#include <cmath>
 #include <opencv2/imgproc.hpp>
 
 namespace {
 
 // Grey levels between objects and background below which there is nothing but noise.
 constexpr double kLeastContrast = 16;
+constexpr double kLeastSeparation = 3; // the same in standard deviations
 
 cv::Mat disc(int diameter) {
     return cv::getStructuringElement(cv::MORPH_ELLIPSE, cv::Size(diameter, diameter));
 }
 
+// True when the two sides of the threshold are no further apart than halves of the same noise would be: those
+// of normally distributed values are 2.65 of their own deviations apart.
 bool isFlat(const cv::Mat& difference, const cv::Mat& mask) {
-    return cv::mean(difference, mask)[0] - cv::mean(difference, mask == 0)[0] < kLeastContrast;
+    cv::Scalar above, below, spreadAbove, spreadBelow;
+    cv::meanStdDev(difference, above, spreadAbove, mask);
+    cv::meanStdDev(difference, below, spreadBelow, mask == 0);
+    const double share = cv::countNonZero(mask) / static_cast<double>(mask.total());
+    const double within =
+        std::sqrt(share * spreadAbove[0] * spreadAbove[0] + (1.0 - share) * spreadBelow[0] * spreadBelow[0]);
+    return above[0] - below[0] < std::max(kLeastContrast, kLeastSeparation * within);
 }
 
 // What stands out, roughly; turns `difference` around where the objects are darker than the background.

@@ -5,8 +5,6 @@
 
 namespace {
 
-// Small photographs are enlarged to about this length of the longer side, by a whole number.
-constexpr double kWantedSide = 1600;
 constexpr double kMostEnlarged = 8;
 
 } // namespace
@@ -17,10 +15,10 @@ const Key Page::ellipse = {"fitted ellipse", gkColor(255, 70, 200), 2.0, false};
 const Key Page::farthestPair = {"farthest pair", gkColor(120, 255, 120), 2.0, false};
 const Key Page::meanPosition = {"mean position", gkColor(255, 120, 60), 3.5, true};
 
-Page::Page(long width, long height) : width_(width) {
+Page::Page(long width, long height, double wantedSide) : width_(width) {
     const double side = static_cast<double>(std::max(width, height));
-    scale_ = std::clamp(std::floor(kWantedSide / side), 1.0, kMostEnlarged);
-    pen_ = std::max(1.0 / scale_, side / kWantedSide);
+    scale_ = std::clamp(std::floor(wantedSide / side), 1.0, kMostEnlarged);
+    pen_ = std::max(1.0 / scale_, side / wantedSide);
     layOutLegend(static_cast<double>(height));
 }
 

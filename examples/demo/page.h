@@ -19,7 +19,9 @@ struct Key {
 
 class Page {
 public:
-    Page(long width, long height);
+    // For a photograph of this size. Small ones are enlarged by a whole number so that the longer side comes to
+    // at most `wantedSide` pixels; large ones stay as they are, and pen and text grow instead.
+    Page(long width, long height, double wantedSide);
 
     // How many pixels of the picture one of the photograph becomes.
     double scale() const { return scale_; }

@@ -101,10 +101,10 @@ std::filesystem::path withSuffix(std::filesystem::path stem, const char* suffix)
 
 std::vector<std::filesystem::path> savePictures(const std::filesystem::path& stem, const Photograph& photograph,
                                                 const std::vector<gkContour>& outlines,
-                                                const std::vector<Measures>& objects) {
+                                                const std::vector<Measures>& objects, double wantedSide) {
     const std::vector<std::filesystem::path> files = {withSuffix(stem, ".png"), withSuffix(stem, ".svg"),
                                                       withSuffix(stem, ".pdf")};
-    const Page page(photograph.width, photograph.height);
+    const Page page(photograph.width, photograph.height, wantedSide);
     Painter<gkCairoTablet> cairo(page);
     paint(cairo, photograph, outlines, objects);
     cairo.tablet().savePng(files[0]);
