@@ -1,5 +1,7 @@
 #include "examples/demo/background.h"
 
+#include "examples/demo/standing_out.h"
+
 #include <algorithm>
 #include <opencv2/imgproc.hpp>
 
@@ -50,23 +52,13 @@ cv::Mat fit(const cv::Mat& image, const cv::Mat& objects) {
 }
 
 cv::Mat objectsIn(const cv::Mat& difference) {
-    cv::Mat bytes;
-    cv::Mat objects;
-    cv::normalize(difference, bytes, 0, 255, cv::NORM_MINMAX, CV_8U);
-    cv::threshold(bytes, objects, 0, 255, cv::THRESH_BINARY | cv::THRESH_OTSU);
-    if (marksBorder(objects)) cv::bitwise_not(objects, objects);
+    cv::Mat objects = standingOut(difference);
     // What lies beside an object is in its shade or its glow and tells little about the background.
     cv::dilate(objects, objects, cv::getStructuringElement(cv::MORPH_RECT, cv::Size(3, 3)));
     return objects;
 }
 
 } // namespace
-
-bool marksBorder(const cv::Mat& mask) {
-    const int marked = cv::countNonZero(mask.row(0)) + cv::countNonZero(mask.row(mask.rows - 1)) +
-                       cv::countNonZero(mask.col(0)) + cv::countNonZero(mask.col(mask.cols - 1));
-    return marked > mask.rows + mask.cols;
-}
 
 cv::Mat withoutBackground(const cv::Mat& gray) {
     const double shrink = std::min(1.0, kFittedSide / std::max(gray.rows, gray.cols));

@@ -4,9 +4,6 @@
 
 #include <opencv2/core.hpp>
 
-// True when most of the mask's border is set: then the background was taken for the objects.
-bool marksBorder(const cv::Mat& mask);
-
 // Brightness minus that of the background, as CV_32F; `gray` is CV_8U. The background is a smooth surface
 // through the pixels that belong to no object, so lamps to one side and dark corners do not matter.
 cv::Mat withoutBackground(const cv::Mat& gray);
