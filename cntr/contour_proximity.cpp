@@ -38,8 +38,9 @@ double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {
 
 std::vector<int> gkContour::vertexIndex(const gkVector<2>& p, double tolerance) const {
     checkEmptyContour();
-    mutating();
-    return caches_.vertexGrids.made().near(value_.points, p, tolerance);
+    gk_VertexGrids& grids = caches_.vertexGrids.made();
+    if (!grids.holds(tolerance)) mutating();
+    return grids.near(value_.points, p, tolerance);
 }
 
 double gkContour::medianFeatureSize() const {

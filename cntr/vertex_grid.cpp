@@ -24,10 +24,15 @@ std::int64_t gk_GridCell(double value, double size) {
     return q < 0.0 ? -roundedHalvesUp(-q) : roundedHalvesUp(q);
 }
 
-const gk_VertexGrids::Grid& gk_VertexGrids::grid(const std::vector<gkVector<2>>& points, double tolerance) {
+const gk_VertexGrids::Grid* gk_VertexGrids::find(double tolerance) const {
     for (const Grid& known : grids_) {
-        if (!(known.size < tolerance) && !(known.size > tolerance)) return known;
+        if (!(known.size < tolerance) && !(known.size > tolerance)) return &known;
     }
+    return nullptr;
+}
+
+const gk_VertexGrids::Grid& gk_VertexGrids::grid(const std::vector<gkVector<2>>& points, double tolerance) {
+    if (const Grid* known = find(tolerance)) return *known;
     Grid fresh{tolerance, {}};
     for (std::size_t i = 0; i < points.size(); ++i) {
         const Cell cell(gk_GridCell(points[i].x(), tolerance), gk_GridCell(points[i].y(), tolerance));

@@ -20,6 +20,9 @@ public:
     // outside, then by index within a cell; not sorted overall. Builds the tolerance's grid on its first use.
     std::vector<int> near(const std::vector<gkVector<2>>& points, const gkVector<2>& p, double tolerance);
 
+    // The grid of this tolerance has been built already.
+    bool holds(double tolerance) const { return find(tolerance) != nullptr; }
+
     // The number of grids held, one per distinct tolerance.
     std::size_t count() const { return grids_.size(); }
 
@@ -30,6 +33,7 @@ private:
         std::map<Cell, std::vector<int>> cells;
     };
 
+    const Grid* find(double tolerance) const;
     const Grid& grid(const std::vector<gkVector<2>>& points, double tolerance);
 
     std::vector<Grid> grids_;

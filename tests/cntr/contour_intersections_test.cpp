@@ -170,6 +170,7 @@ TEST(SelfIntersection, OfTooFewVerticesIsFalse) {
     EXPECT_FALSE(closed("").isSelfIntersecting());
     EXPECT_FALSE(closed("1 1").isSelfIntersecting());
     EXPECT_FALSE(open("1 1").isSelfIntersecting());
+    EXPECT_FALSE(gkContour({{kNan, 1}}, true, 0).isSelfIntersecting());
 }
 
 TEST(SelfIntersection, TheClosingSegmentCounts) {

@@ -129,6 +129,19 @@ TEST(VertexIndex, KeepsOneGridPerTolerance) {
     EXPECT_EQ(2u, grids.count());
 }
 
+TEST(VertexIndex, MarksTheContourChangedOnlyWhenItBuildsAGrid) {
+    const gkContour contour = open("0 0, 3 4");
+    const auto marks = [&](double tolerance) {
+        contour.clearChanged();
+        contour.vertexIndex({0, 0}, tolerance);
+        return contour.isChanged();
+    };
+    EXPECT_TRUE(marks(1.0));
+    EXPECT_FALSE(marks(1.0));
+    EXPECT_TRUE(marks(2.0));
+    EXPECT_FALSE(marks(1.0));
+}
+
 TEST(VertexIndex, FollowsAMovedVertex) {
     gkContour contour = open("0 0, 3 4");
     EXPECT_EQ((std::vector<int>{0}), contour.vertexIndex({0, 0}, 1.0));
@@ -174,7 +187,8 @@ TEST(GridCell, RoundsNegativeCoordinatesSymmetrically) {
 }
 
 TEST(GridCell, IsTheIntegerPartOfTheQuotientPlusAHalf) {
-    EXPECT_EQ(1, gk_GridCell(0.49999999999999994, 1.0)); // the sum rounds up to 1; no rounding function's answer
+    EXPECT_EQ(1,
+              gk_GridCell(0.49999999999999994, 1.0)); // the sum rounds up to 1; no rounding function's answer
     EXPECT_EQ(-1, gk_GridCell(-0.49999999999999994, 1.0));
     EXPECT_EQ(3, gk_GridCell(5.0, 2.0));
 }
@@ -185,7 +199,9 @@ TEST(GridCell, SaturatesInsteadOfOverflowing) {
     EXPECT_EQ(2148000000, gk_GridCell(2148, 1e-6));
 }
 
-TEST(MedianFeatureSize, OfASquareIsItsSide) { EXPECT_EQ(1.0, closed("0 0, 1 0, 1 1, 0 1").medianFeatureSize()); }
+TEST(MedianFeatureSize, OfASquareIsItsSide) {
+    EXPECT_EQ(1.0, closed("0 0, 1 0, 1 1, 0 1").medianFeatureSize());
+}
 
 TEST(MedianFeatureSize, OfAnEvenCountIsTheUpperMiddle) {
     EXPECT_EQ(3.0, open("0 0, 1 0, 3 0, 6 0, 10 0").medianFeatureSize());
