@@ -1,10 +1,17 @@
 # Same input, same bits, with every compiler: no contraction of a multiplication and an addition into one
 # rounding, and never fast-math. Warnings are errors for us; a project that builds us inside its own decides itself.
+#
+# Where the processor has fused instructions (-march=native), GCC 12 makes some from vectorised complex products even so;
+# -mno-fma takes them away.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-mno-fma GK_HAS_MNO_FMA)
+
 function(gk_compile_options target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow
     $<$<BOOL:${GKCNTR_WERROR}>:-Werror>
-    -ffp-contract=off)
+    -ffp-contract=off
+    $<$<BOOL:${GK_HAS_MNO_FMA}>:-mno-fma>)
   set_target_properties(${target} PROPERTIES
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden

@@ -28,7 +28,8 @@ gkVector<2> probe(const Json& step) { return answer::vector(step.at("p")); }
 
 Json World::ask(const Json& step) {
     // Each group answers the operations it knows and null for others.
-    for (const auto group : {&World::make, &World::askContour, &World::askContourProtected, &World::askFreeFunction}) {
+    for (const auto group : {&World::make, &World::askContour, &World::askContourProtected,
+                             &World::askFreeFunction, &World::askRegion, &World::askSet}) {
         Json answered = (this->*group)(step);
         if (!answered.is_null()) return answered;
     }
@@ -37,46 +38,86 @@ Json World::ask(const Json& step) {
 
 gkContour& World::contour(const Json& step, const char* key) {
     const auto shape = shapes_.find(step.at(key).get<std::string>());
-    if (shape == shapes_.end() || !shape->second) throw NotBuilt("an object that was not built");
+    if (shape == shapes_.end() || shape->second.isNull()) throw NotBuilt("an object that was not built");
     return *shape->second;
 }
 
+gkRegion& World::region(const Json& step, const char* key) {
+    auto* found = dynamic_cast<gkRegion*>(&contour(step, key));
+    if (!found) throw NotBuilt("a region that was not built");
+    return *found;
+}
+
+gkPtrHandle<gkRegion> World::regionHandle(const Json& name) {
+    const Json step = {{"on", name}};
+    return gkPtrHandle<gkRegion>(&region(step));
+}
+
+gkRegionSet& World::set(const Json& step, const char* key) {
+    const auto found = sets_.find(step.at(key).get<std::string>());
+    if (found == sets_.end() || found->second.isNull()) throw NotBuilt("a set that was not built");
+    return *found->second;
+}
+
 gkRegion& World::filledRegion(const Json& step) {
-    std::shared_ptr<gkContour>& shape = shapes_[step.at("into").get<std::string>()];
-    if (!shape) shape = std::make_shared<gkRegion>();
+    gkPtrHandle<gkContour>& shape = shapes_[step.at("into").get<std::string>()];
+    if (shape.isNull()) shape = gkPtrHandle<gkRegion>(new gkRegion);
     return dynamic_cast<gkRegion&>(*shape);
+}
+
+gkRegionSet& World::filledSet(const Json& step) {
+    gkPtrHandle<gkRegionSet>& found = sets_[step.at("into").get<std::string>()];
+    if (found.isNull()) found = gkPtrHandle<gkRegionSet>(new gkRegionSet);
+    return *found;
 }
 
 Json World::make(const Json& step) {
     const std::string op = step.at("op");
     if (!step.contains("as")) return nullptr;
-    std::shared_ptr<gkContour>& shape = shapes_[step.at("as").get<std::string>()];
+    const std::string name = step.at("as");
     const auto label = [&] { return step.at("label").get<unsigned long>(); };
+    const auto vertices = [&] { return answer::points(step.at("points")); };
+    const auto mode = [&] { return static_cast<gkContourDefs::IntersectionMode>(step.at("mode").get<int>()); };
+    // When the constructor throws, the name stands for nothing.
+    const auto named = [&](auto construct) {
+        shapes_.erase(name);
+        sets_.erase(name);
+        construct();
+        return answer::nothing();
+    };
+    const auto shape = [&](auto* made) { shapes_[name] = gkPtrHandle<gkContour>(made); };
     if (op == "contour") {
-        shape = std::make_shared<gkContour>(answer::points(step.at("points")), step.at("closed").get<bool>(), label());
-    } else if (op == "contourPolygon") {
-        shape = std::make_shared<gkContour>(gkPolygon(answer::points(step.at("points"))), label());
-    } else if (op == "contourCopy") {
-        shape = std::make_shared<gkContour>(contour(step, "from"));
-    } else if (op == "region" && step.at("mode") == 0) {
-        shape = std::make_shared<gkRegion>(answer::points(step.at("points")));
-    } else if (op == "copy") {
-        const gkContour& from = contour(step, "from");
-        if (const auto* region = dynamic_cast<const gkRegion*>(&from)) {
-            shape = std::make_shared<gkRegion>(*region);
-        } else {
-            shape = std::make_shared<gkContour>(from);
-        }
-    } else {
-        shapes_.erase(step.at("as").get<std::string>());
-        return nullptr;
+        return named([&] { shape(new gkContour(vertices(), step.at("closed").get<bool>(), label())); });
     }
-    return answer::nothing();
+    if (op == "contourPolygon") return named([&] { shape(new gkContour(gkPolygon(vertices()), label())); });
+    if (op == "contourCopy") return named([&] { shape(new gkContour(contour(step, "from"))); });
+    if (op == "region") return named([&] { shape(new gkRegion(vertices(), mode())); });
+    if (op == "regionPolygon") return named([&] { shape(new gkRegion(gkPolygon(vertices()), mode())); });
+    if (op == "regionContour") return named([&] { shape(new gkRegion(contour(step, "from"), mode())); });
+    if (op == "set") {
+        return named([&] {
+            std::vector<gkPtrHandle<gkRegion>> regions;
+            for (const Json& region : step.at("regions")) regions.push_back(regionHandle(region));
+            sets_[name] = gkPtrHandle<gkRegionSet>(new gkRegionSet(regions, mode()));
+        });
+    }
+    if (op == "copy") {
+        const std::string from = step.at("from");
+        if (sets_.count(from))
+            return named([&] { sets_[name] = gkPtrHandle<gkRegionSet>(new gkRegionSet(*sets_[from])); });
+        if (const auto* source = dynamic_cast<const gkRegion*>(&contour(step, "from"))) {
+            return named([&] { shape(new gkRegion(*source)); });
+        }
+        return named([&] { shape(new gkContour(contour(step, "from"))); });
+    }
+    shapes_.erase(name);
+    sets_.erase(name);
+    return nullptr;
 }
 
 Json World::askContour(const Json& step) {
     const std::string op = step.at("op");
-    if (!step.contains("on")) return nullptr;
+    if (!step.contains("on") || !shapes_.count(step.at("on"))) return nullptr;
     gkContour& c = contour(step);
     if (op == "assign" && dynamic_cast<gkRegion*>(&c)) {
         dynamic_cast<gkRegion&>(c) = dynamic_cast<const gkRegion&>(contour(step, "from"));
@@ -93,8 +134,8 @@ Json World::askContour(const Json& step) {
     } else if (op == "convexHull") {
         c.convexHull(filledRegion(step));
     } else if (op == "map") {
-        std::shared_ptr<gkContour>& out = shapes_[step.at("into").get<std::string>()];
-        if (!out) out = std::make_shared<gkContour>();
+        gkPtrHandle<gkContour>& out = shapes_[step.at("into").get<std::string>()];
+        if (out.isNull()) out = gkPtrHandle<gkContour>(new gkContour);
         c.map(answer::xform(step.at("xform")), *out);
     } else if (op == "points") {
         return answer::of(c.points());
@@ -144,7 +185,7 @@ Json World::askContour(const Json& step) {
 
 Json World::askContourProtected(const Json& step) {
     const std::string op = step.at("op");
-    if (!step.contains("on")) return nullptr;
+    if (!step.contains("on") || !shapes_.count(step.at("on"))) return nullptr;
     const gkContour& c = contour(step);
     if (op == "lineSegs") return answer::of((c.*(&Protected::lineSegs))());
     if (op == "validLine") return answer::of((c.*(&Protected::validLine))());
@@ -171,4 +212,90 @@ Json World::askFreeFunction(const Json& step) {
         return answer::of(gf_StdDev(values));
     }
     return nullptr;
+}
+
+Json World::askRegion(const Json& step) {
+    const std::string op = step.at("op");
+    if (!step.contains("on") || !shapes_.count(step.at("on"))) return nullptr;
+    if (!dynamic_cast<gkRegion*>(&contour(step))) return nullptr;
+    gkRegion& r = region(step);
+    const auto h = [&] { return step.at("h").get<bool>(); };
+    const auto flag = [&](const char* key) { return step.at(key).get<bool>(); };
+    if (op == "holesSet") {
+        std::vector<gkPtrHandle<gkRegion>> holes;
+        for (const Json& hole : step.at("holes")) holes.push_back(regionHandle(hole));
+        r.holes(holes);
+        return answer::nothing();
+    }
+    if (op == "holesCount") return answer::of(static_cast<long>(r.holes().size()));
+    if (op == "area") return answer::of(r.area(h()));
+    if (op == "centerOfMass") return answer::of(r.centerOfMass(h()));
+    if (op == "inertiaMatrix") return answer::of(r.inertiaMatrix(h()));
+    if (op == "inside") return answer::of(r.inside(probe(step), h()));
+    if (op == "closestVertexIndexH") {
+        long hole = 7;
+        const long vertex = r.closestVertexIndex(probe(step), h(), hole);
+        return answer::of(std::vector<int>{static_cast<int>(vertex), static_cast<int>(hole)});
+    }
+    if (op == "closestPointH") return answer::of(r.closestPoint(probe(step), flag("verticesOnly"), h()));
+    if (op == "distToPointH") {
+        return answer::of(r.distToPoint(probe(step), flag("verticesOnly"), h(), flag("zeroInside")));
+    }
+    if (op == "isectSegH") {
+        return answer::of(r.intersections(answer::segment(step.at("seg")), flag("includeEnds"), h()));
+    }
+    if (op == "isectContourH") return answer::of(r.intersections(contour(step, "other"), h()));
+    if (op == "regionEquals") return answer::of(r == region(step, "other"));
+    if (op == "regularize") {
+        r.regularize(filledRegion(step));
+    } else if (op == "outerHull") {
+        r.outerHull(filledRegion(step));
+    } else if (op == "regionMap") {
+        r.map(answer::xform(step.at("xform")), filledRegion(step));
+    } else {
+        return nullptr;
+    }
+    return answer::nothing();
+}
+
+Json World::askSet(const Json& step) {
+    const std::string op = step.at("op");
+    if (!step.contains("on") || !sets_.count(step.at("on"))) return nullptr;
+    gkRegionSet& s = set(step);
+    const auto h = [&] { return step.at("h").get<bool>(); };
+    const auto flag = [&](const char* key) { return step.at(key).get<bool>(); };
+    const auto mode = [&] { return static_cast<gkContourDefs::IntersectionMode>(step.at("mode").get<int>()); };
+    const auto member = [&] { return s.regions().at(step.at("index").get<std::size_t>()); };
+    if (op == "setSize") return answer::of(static_cast<long>(s.regions().size()));
+    if (op == "setPointsOf") return answer::of(member()->points());
+    if (op == "setLabelOf") return answer::of(static_cast<long>(member()->label()));
+    if (op == "setHolesOf") return answer::of(static_cast<long>(member()->holes().size()));
+    if (op == "setIs") return answer::of(member() == regionHandle(step.at("region")));
+    if (op == "setEquals") return answer::of(s == set(step, "other"));
+    if (op == "setArea") return answer::of(s.area(h()));
+    if (op == "setCenterOfMass") return answer::of(s.centerOfMass(h()));
+    if (op == "setInertiaMatrix") return answer::of(s.inertiaMatrix(h()));
+    if (op == "setInside") return answer::of(s.inside(probe(step), h()));
+    if (op == "setDist") {
+        return answer::of(s.distToPoint(probe(step), flag("verticesOnly"), h(), flag("zeroInside")));
+    }
+    if (op == "setEncloseRect") return answer::of(s.encloseRect(answer::xform(step.at("xform"))));
+    if (op == "setSelfIntersecting") return answer::of(s.isSelfIntersecting());
+    if (op == "cvs") return answer::of(s.cachedVectorSize());
+    if (op == "setRegularize") {
+        s.regularize(filledSet(step));
+    } else if (op == "setOuterHull") {
+        s.outerHull(filledSet(step));
+    } else if (op == "setAdd") {
+        s.add(regionHandle(step.at("region")), mode());
+    } else if (op == "setRegions") {
+        std::vector<gkPtrHandle<gkRegion>> regions;
+        for (const Json& region : step.at("regions")) regions.push_back(regionHandle(region));
+        s.regions(regions, mode());
+    } else if (op == "cvsSet") {
+        s.cachedVectorSize(step.at("n").get<long>());
+    } else {
+        return nullptr;
+    }
+    return answer::nothing();
 }

@@ -2,7 +2,7 @@
 #ifndef GK_TESTS_REFERENCE_WORLD_H
 #define GK_TESTS_REFERENCE_WORLD_H
 
-#include "cntr/region.h"
+#include "cntr/regionst.h"
 
 #include <nlohmann/json.hpp>
 
@@ -23,13 +23,20 @@ public:
 
 private:
     gkContour& contour(const nlohmann::json& step, const char* key = "on");
+    gkRegion& region(const nlohmann::json& step, const char* key = "on");
+    gkPtrHandle<gkRegion> regionHandle(const nlohmann::json& name);
+    gkRegionSet& set(const nlohmann::json& step, const char* key = "on");
     gkRegion& filledRegion(const nlohmann::json& step);
+    gkRegionSet& filledSet(const nlohmann::json& step);
     nlohmann::json make(const nlohmann::json& step);
     nlohmann::json askContour(const nlohmann::json& step);
     nlohmann::json askContourProtected(const nlohmann::json& step);
     nlohmann::json askFreeFunction(const nlohmann::json& step);
+    nlohmann::json askRegion(const nlohmann::json& step);
+    nlohmann::json askSet(const nlohmann::json& step);
 
-    std::map<std::string, std::shared_ptr<gkContour>> shapes_;
+    std::map<std::string, gkPtrHandle<gkContour>> shapes_;
+    std::map<std::string, gkPtrHandle<gkRegionSet>> sets_;
 };
 
 #endif

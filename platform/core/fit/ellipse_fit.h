@@ -14,14 +14,14 @@
 /// The modes and errors of gfEllipseFit.
 class GKCNTR_API gkEllipseFitDefs {
 public:
-    enum fit_mode {
+    enum fit_mode : int {
         /// Least squares of the algebraic distance a x^2 + b x y + c y^2 + d x + e y + f under 4 a c - b^2 = 1:
         /// always an
         /// ellipse, unchanged by any affine map, somewhat too small for short and noisy arcs.
         eDirectLeastSquares = 0
     };
 
-    /// Fewer than five different points were given, or are left after leaving out the worst. Number 0x10000301.
+    /// Fewer than five different points were given, or are left after leaving out the worst. Number 0x10000401.
     class GKCNTR_API TooFewPoints : public gkExceptionWithString {
     public:
         explicit TooFewPoints(const wchar_t* message);
@@ -33,7 +33,7 @@ public:
     };
 
     /// The points determine no ellipse: they are collinear to the rounding of their coordinates, or the best
-    /// conic has no finite radii. Number 0x10000302.
+    /// conic has no finite radii. Number 0x10000402.
     class GKCNTR_API Degenerate : public gkExceptionWithString {
     public:
         explicit Degenerate(const wchar_t* message);
@@ -44,7 +44,7 @@ public:
         [[noreturn]] void suicideAndRethrow() override;
     };
 
-    /// A coordinate is NaN or infinite. Number 0x10000303.
+    /// A coordinate is NaN or infinite. Number 0x10000403.
     class GKCNTR_API NotFinite : public gkExceptionWithString {
     public:
         explicit NotFinite(const wchar_t* message);
@@ -55,7 +55,7 @@ public:
         [[noreturn]] void suicideAndRethrow() override;
     };
 
-    /// The error of the fit is greater than the limit. Number 0x10000304.
+    /// The error of the fit is greater than the limit. Number 0x10000404.
     class GKCNTR_API LimitExceeded : public gkExceptionWithString {
     public:
         explicit LimitExceeded(const wchar_t* message);
@@ -66,7 +66,7 @@ public:
         [[noreturn]] void suicideAndRethrow() override;
     };
 
-    /// The mode is none of fit_mode, or the limit is NaN. Number 0x10000305.
+    /// The mode is none of fit_mode, or the limit is NaN. Number 0x10000405.
     class GKCNTR_API BadParams : public gkExceptionWithString {
     public:
         explicit BadParams(const wchar_t* message);

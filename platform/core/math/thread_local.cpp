@@ -1,8 +1,14 @@
 #include "platform/core/math/thread_local.h"
 
 #include <algorithm>
+#include <memory>
+#include <new>
 #include <utility>
 #include <vector>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -24,7 +30,10 @@ public:
     ThreadValues() = default;
     ThreadValues(const ThreadValues&) = delete;
     ThreadValues& operator=(const ThreadValues&) = delete;
-    ~ThreadValues() {
+    ~ThreadValues() { destroyAll(); }
+
+    // The last made first.
+    void destroyAll() {
         while (!values_.empty()) destroy(values_.end() - 1);
     }
 
@@ -56,10 +65,54 @@ private:
     std::vector<Value> values_;
 };
 
+#ifdef _WIN32
+
+// A thread_local object will not do here: the C++ runtime of MinGW-w64 may run its destructor when the memory
+// it is in has already been freed. The system's own slot hands its callback a pointer to memory of ours.
+class SystemSlot {
+public:
+    SystemSlot() : index_(FlsAlloc(&end)) {
+        if (index_ == FLS_OUT_OF_INDEXES) throw std::bad_alloc();
+    }
+    // Ends the values of all threads, so that no callback is left behind when the library is unloaded.
+    ~SystemSlot() { FlsFree(index_); }
+    SystemSlot(const SystemSlot&) = delete;
+    SystemSlot& operator=(const SystemSlot&) = delete;
+
+    ThreadValues& get() const {
+        if (void* const own = FlsGetValue(index_)) return *static_cast<ThreadValues*>(own);
+        auto made = std::make_unique<ThreadValues>();
+        if (!FlsSetValue(index_, made.get())) throw std::bad_alloc();
+        return *made.release();
+    }
+
+    static const SystemSlot& instance() {
+        static const SystemSlot slot;
+        return slot;
+    }
+
+private:
+    static void WINAPI end(void* values) {
+        // The system has forgotten the pointer; destructors that use other slots must still find the list.
+        FlsSetValue(instance().index_, values);
+        static_cast<ThreadValues*>(values)->destroyAll();
+        FlsSetValue(instance().index_, nullptr);
+        delete static_cast<ThreadValues*>(values);
+    }
+
+    DWORD index_;
+};
+
+ThreadValues& ofThisThread() { return SystemSlot::instance().get(); }
+
+#else
+
 ThreadValues& ofThisThread() {
     static thread_local ThreadValues values;
     return values;
 }
+
+#endif
 
 } // namespace
 

@@ -38,11 +38,12 @@ private:
 ///         return slot.get();
 ///     }
 ///
-/// Lifetimes. A thread's values are destroyed at its end, the last made first; those of the main thread at the
-/// end of the program, before static objects: get() must not be called from the destructors of those. A slot
+/// Lifetimes. A thread's values are destroyed at its end, the last made first, and those of the main thread
+/// when the program ends; get() must not be called from destructors of static or thread-local objects. A slot
 /// may die before the threads that used it. Nothing leaks then: each thread destroys its value when it next
 /// gets a first value from any slot, or else at its end. The code of T's destructor must be loaded until then,
-/// so a shared library that holds a slot is not to be unloaded while threads live that used it.
+/// so a shared library that holds a slot is not to be unloaded while threads live that used it. On Windows a
+/// fiber counts as a thread.
 ///
 /// get() may be called by any number of threads at once; no thread waits for another. The construction and the
 /// destruction of a slot must not overlap its use.

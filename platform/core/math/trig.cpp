@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-// How the bounds come about and where the constants are from: docs/numerics-trig.md.
+// How the bounds come about and where the constants are from: docs/numerics.md.
 
 namespace {
 
@@ -82,9 +82,8 @@ constexpr std::uint32_t kTwoOverPi[] = {
 };
 
 constexpr int kDigits = 7;
-constexpr int kFractionBits = 32 * kDigits - 2;
 
-// radians * 2/pi modulo 4 in units of 2^-kFractionBits, least digit first.
+// radians * 2/pi modulo 4 in units of 2^-222, least digit first.
 struct Quarters {
     std::uint32_t digit[kDigits];
 };

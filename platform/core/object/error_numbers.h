@@ -10,6 +10,7 @@
 /// | 0x10000100 | gkMathError, gkBadPointer, gkPel and the assertion |
 /// | 0x10000200 | gkArchive |
 /// | 0x10000300 | gkUITablet |
+/// | 0x10000400 | gkEllipseFitDefs |
 /// | 0x10004680 to 0x10004684 | gkContourDefs, which lists its own |
 class gk_ErrorNumber {
 public:
@@ -38,6 +39,12 @@ public:
 
     static constexpr long eUITabletCannotWrite = 0x10000301;
     static constexpr long eUITabletBadSize = 0x10000302;
+
+    static constexpr long eFitTooFewPoints = 0x10000401;
+    static constexpr long eFitDegenerate = 0x10000402;
+    static constexpr long eFitNotFinite = 0x10000403;
+    static constexpr long eFitLimitExceeded = 0x10000404;
+    static constexpr long eFitBadParams = 0x10000405;
 
     gk_ErrorNumber() = delete;
 };

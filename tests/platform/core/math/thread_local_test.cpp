@@ -207,8 +207,13 @@ TEST_F(ThreadLocal, DestructorAtThreadEndMayUseAnotherSlot) {
 
 TEST_F(ThreadLocal, GeneratorOfEveryThreadStartsWithItsSeed) {
     static const gk_ThreadLocal<gkRandomUniform> slot([] { return new gkRandomUniform(1); });
-    const double expected = gkRandomUniform(1).next();
-    EXPECT_EQ(expected, slot.get().next());
-    EXPECT_NE(expected, slot.get().next());
-    inNewThread([&] { EXPECT_EQ(expected, slot.get().next()); });
+    gkRandomUniform expected(1);
+    const double first = expected.next();
+    const double second = expected.next();
+    for (int thread = 0; thread < 3; ++thread) {
+        inNewThread([&] {
+            EXPECT_EQ(first, slot.get().next());
+            EXPECT_EQ(second, slot.get().next());
+        });
+    }
 }

