@@ -259,6 +259,10 @@ TEST(ContourLaws, ScalingByAPowerOfTwoScalesMeasures) {
         EXPECT_EQ(0x1p20 * gf_Area(points), gf_Area(grown));
         EXPECT_EQ(mapped(hullOf(a), grow), hullOf(b));
         for (const gkVector<2>& p : gen::probes(points, seed)) {
+            // An ulp beside zero: its products underflow, and then scaling is not exact.
+            const bool small =
+                (p.x() != 0.0 && std::fabs(p.x()) < 1e-100) || (p.y() != 0.0 && std::fabs(p.y()) < 1e-100);
+            if (small) continue;
             ASSERT_EQ(grow(a.closestPoint(p, false)), b.closestPoint(grow(p), false)) << p;
         }
     });
