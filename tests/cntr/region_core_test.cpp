@@ -176,7 +176,7 @@ TEST(RegionCore, EqualityIgnoresHolesAndLabel) {
 TEST(RegionCore, EqualitySeesVerticesAndCachedVectorSize) {
     const gkRegion plain(square(0, 0, 10));
     EXPECT_FALSE(plain == gkRegion(square(0, 0, 11)));
-    EXPECT_FALSE(plain == gkRegion(Points(square(0, 0, 10).rbegin(), square(0, 0, 10).rend())));
+    EXPECT_FALSE(plain == gkRegion(points("0 10, 10 10, 10 0, 0 0")));
     gkRegion other(square(0, 0, 10));
     other.cachedVectorSize(4);
     EXPECT_TRUE(plain != other);
