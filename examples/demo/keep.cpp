@@ -3,33 +3,33 @@
 #include "platform/core/archive/archive_file.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
-using Handles = std::vector<gkPtrHandle<gkContour>>;
+using Regions = std::vector<gkPtrHandle_const<gkRegion>>;
+
+bool same(const Regions& a, const Regions& b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const auto& one, const auto& other) {
+        return *one == *other && one->label() == other->label() && same(one->holes(), other->holes());
+    });
+}
 
 } // namespace
 
-void saveContours(const std::filesystem::path& file, const std::vector<gkContour>& contours) {
-    Handles handles;
-    for (const gkContour& contour : contours) handles.emplace_back(new gkContour(contour));
+void saveRegions(const std::filesystem::path& file, const gkRegionSet& regions) {
+    gkRegionSet written = regions; // one operator serves both directions, so it takes no constant
     gkArchiveFile archive(file, gkArchiveFile::eSave);
-    archive || handles;
+    archive || written;
     archive.close();
 }
 
-std::vector<gkContour> loadContours(const std::filesystem::path& file) {
-    Handles handles;
+gkRegionSet loadRegions(const std::filesystem::path& file) {
+    gkRegionSet regions;
     gkArchiveFile archive(file, gkArchiveFile::eLoad);
-    archive || handles;
+    archive || regions;
     archive.close();
-    std::vector<gkContour> contours;
-    for (const gkPtrHandle<gkContour>& handle : handles) contours.push_back(*handle);
-    return contours;
+    return regions;
 }
 
-bool same(const std::vector<gkContour>& a, const std::vector<gkContour>& b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](const gkContour& one, const gkContour& other) {
-        return one == other && one.label() == other.label();
-    });
-}
+bool same(const gkRegionSet& a, const gkRegionSet& b) { return same(a.regions(), b.regions()); }

@@ -1,16 +1,15 @@
-// Contours in a file, and out of it again.
+// Regions in a file, and out of it again.
 #ifndef GK_EXAMPLES_DEMO_KEEP_H
 #define GK_EXAMPLES_DEMO_KEEP_H
 
-#include "cntr/contour.h"
+#include "cntr/regionst.h"
 
 #include <filesystem>
-#include <vector>
 
-void saveContours(const std::filesystem::path& file, const std::vector<gkContour>& contours);
-std::vector<gkContour> loadContours(const std::filesystem::path& file);
+void saveRegions(const std::filesystem::path& file, const gkRegionSet& regions);
+gkRegionSet loadRegions(const std::filesystem::path& file);
 
-// Equal lists of equal contours; unlike the contours' own ==, the labels count as well.
-bool same(const std::vector<gkContour>& a, const std::vector<gkContour>& b);
+// Equal lists of equal regions; unlike the regions' own ==, labels and holes count as well.
+bool same(const gkRegionSet& a, const gkRegionSet& b);
 
 #endif

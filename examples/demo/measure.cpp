@@ -1,6 +1,8 @@
 #include "examples/demo/measure.h"
 
+#include "cntr/moments.h"
 #include "platform/core/fit/ellipse_fit.h"
+#include "platform/core/object/errors.h"
 
 namespace {
 
@@ -36,19 +38,45 @@ std::optional<FittedEllipse> fitOf(const gkContour& contour) {
     return fit;
 }
 
+// A piece of negative area is taken away from the sum, which gives what gkRegion::inertiaMatrix refuses: second
+// moments with holes.
+gk_InertiaData momentsOf(const gkRegion& region) {
+    gk_InertiaData sum = gf_InertiaDataPolygon(region.points());
+    for (const gkPtrHandle_const<gkRegion>& hole : region.holes()) {
+        const gk_InertiaData piece = gf_InertiaDataPolygon(hole->points());
+        sum = sum + gk_InertiaData(-piece.area(), piece.centerOfMass(), piece.inertiaMatrix());
+    }
+    return sum;
+}
+
+std::optional<gkEllipse> ellipseOf(const gk_InertiaData& moments) {
+    try {
+        return gf_EllipseFromInertiaData(moments);
+    } catch (const gkMathError::Singular&) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
-Measures measure(const gkContour& contour) {
+Measures measure(const gkRegion& region) {
     Measures measures;
-    measures.number = contour.label();
-    measures.vertices = contour.points().size();
-    measures.closed = contour.isClosed();
-    measures.length = contour.length();
-    measures.meanPosition = contour.meanPosition();
-    measures.diameter = contour.diameter(gkContourDefs::eExact);
-    measures.hull = hullOf(contour);
+    measures.number = region.label();
+    measures.vertices = region.points().size();
+    measures.closed = region.isClosed();
+    measures.length = region.length();
+    measures.meanPosition = region.meanPosition();
+    measures.diameter = region.diameter(gkContourDefs::eExact);
+    measures.hull = hullOf(region);
     measures.farthestPair = farthestPair(measures.hull.points());
-    measures.fit = fitOf(contour);
-    measures.crossesItself = contour.isSelfIntersecting();
+    measures.fit = fitOf(region);
+    measures.crossesItself = region.isSelfIntersecting();
+
+    const gk_InertiaData moments = momentsOf(region);
+    measures.holes = region.holes().size();
+    measures.filledArea = region.area(false);
+    measures.area = region.area(true);
+    measures.centerOfMass = moments.centerOfMass();
+    measures.momentsEllipse = ellipseOf(moments);
     return measures;
 }

@@ -24,9 +24,15 @@ struct Measures {
     gkRegion hull;
     std::optional<FittedEllipse> fit; // none where the vertices determine no ellipse
     bool crossesItself = false;
+
+    std::size_t holes = 0;
+    double filledArea = 0.0; // inside the outline
+    double area = 0.0;       // the same without the holes
+    gkVector<2> centerOfMass;
+    std::optional<gkEllipse> momentsEllipse; // solid, with the second moments of the region and its holes
 };
 
-// `contour` has at least two vertices.
-Measures measure(const gkContour& contour);
+// `region` has at least three vertices; they and those of its holes run counter-clockwise.
+Measures measure(const gkRegion& region);
 
 #endif

@@ -3,30 +3,51 @@
 #include "examples/demo/failure.h"
 
 #include <algorithm>
+#include <sstream>
 #include <string>
+#include <vector>
 
 const char* const kUsage =
-    "usage: demo IMAGE --out FOLDER [--least-area PIXELS] [--side PIXELS]\n"
+    "usage: demo IMAGE --out FOLDER [--part LEFT,TOP,WIDTH,HEIGHT] [--least-area PIXELS] [--side PIXELS]\n"
     "\n"
-    "Measures the objects of a picture: prints a table and writes into FOLDER the picture with everything "
-    "drawn over\n"
-    "it, as PNG, SVG and PDF, and the contours as an archive. Objects smaller than the least area (64) are "
-    "left out.\n"
-    "A small picture is enlarged as far as its longer side stays within --side (1600).\n";
+    "Measures the objects of a picture, or of a part of it, and the holes in them: prints two tables and\n"
+    "writes into FOLDER the picture with everything drawn over it, as PNG, SVG and PDF, and the regions as an\n"
+    "archive. Objects and holes smaller than the least area (64) are left out. A small picture is enlarged as\n"
+    "far as its longer side stays within --side (1600).\n";
 
 namespace {
 
+bool isNumber(const std::string& text) {
+    return !text.empty() && text.size() <= 9 &&
+           std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
 double numberFrom(const std::string& option, const std::string& text) {
-    const bool isNumber = !text.empty() && text.size() <= 9 &&
-                          std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-    if (!isNumber) throw Failure(option + " needs a whole number of pixels, not '" + text + "'.");
+    if (!isNumber(text)) throw Failure(option + " needs a whole number, not '" + text + "'.");
     return static_cast<double>(std::stol(text));
+}
+
+Part partFrom(const std::string& text) {
+    const Failure failure("--part needs four whole numbers LEFT,TOP,WIDTH,HEIGHT, not '" + text + "'.");
+    std::istringstream in(text);
+    std::vector<int> numbers;
+    for (std::string number; std::getline(in, number, ',');) {
+        if (!isNumber(number)) throw failure;
+        numbers.push_back(std::stoi(number));
+    }
+    if (numbers.size() != 4) throw failure;
+    return {numbers[0], numbers[1], numbers[2], numbers[3]};
+}
+
+bool takesValue(const std::string& argument) {
+    return argument == "--out" || argument == "--least-area" || argument == "--side" || argument == "--part";
 }
 
 void take(Options& options, const std::string& option, const std::string& value) {
     if (option == "--out") options.folder = value;
     if (option == "--least-area") options.leastArea = numberFrom(option, value);
     if (option == "--side") options.wantedSide = std::max(1.0, numberFrom(option, value));
+    if (option == "--part") options.part = partFrom(value);
 }
 
 } // namespace
@@ -39,7 +60,7 @@ Options parseOptions(int count, char** arguments) {
             options.help = true;
             return options;
         }
-        if (argument == "--out" || argument == "--least-area" || argument == "--side") {
+        if (takesValue(argument)) {
             if (++i == count) throw Failure(argument + " needs a value after it.");
             take(options, argument, arguments[i]);
         } else if (argument.size() > 1 && argument[0] == '-') {

@@ -1,60 +1,78 @@
 #include "examples/demo/outlines.h"
 
 #include "cntr/moments.h"
-#include "examples/demo/background.h"
-#include "examples/demo/own_threshold.h"
+#include "examples/demo/object_mask.h"
 #include "examples/demo/reading_order.h"
-#include "examples/demo/standing_out.h"
 
+#include <algorithm>
 #include <opencv2/imgproc.hpp>
 
 namespace {
 
-cv::Mat disc(int diameter) {
-    return cv::getStructuringElement(cv::MORPH_ELLIPSE, cv::Size(diameter, diameter));
-}
+using Vertices = std::vector<gkVector<2>>;
+using Border = std::vector<cv::Point>;
+using Holes = std::vector<gkPtrHandle_const<gkRegion>>;
 
-std::vector<std::vector<cv::Point>> outerBorders(const cv::Mat& mask) {
-    std::vector<std::vector<cv::Point>> borders;
-    cv::findContours(mask, borders, cv::RETR_EXTERNAL, cv::CHAIN_APPROX_NONE);
-    return borders;
-}
-
-// Objects without holes and hairs: gaps in the rim are closed, insides filled, and what is thinner than the
-// last disc goes, so that an outline runs around its object once.
-cv::Mat solid(const cv::Mat& mask) {
-    cv::Mat closed;
-    cv::morphologyEx(mask, closed, cv::MORPH_CLOSE, disc(5));
-    cv::Mat filled(mask.size(), CV_8U, cv::Scalar(0));
-    cv::drawContours(filled, outerBorders(closed), -1, cv::Scalar(255), cv::FILLED);
-    cv::morphologyEx(filled, filled, cv::MORPH_OPEN, disc(7));
-    return filled;
-}
-
-std::vector<gkVector<2>> pixelCentres(const std::vector<cv::Point>& border) {
-    std::vector<gkVector<2>> centres;
+// The second moments are true for counter-clockwise vertices.
+Vertices pixelCentres(const Border& border, int enlargement) {
+    Vertices centres;
     centres.reserve(border.size());
-    for (const cv::Point& pixel : border) centres.emplace_back(pixel.x + 0.5, pixel.y + 0.5);
+    for (const cv::Point& pixel : border)
+        centres.emplace_back((pixel.x + 0.5) / enlargement, (pixel.y + 0.5) / enlargement);
+    if (gf_InertiaDataPolygon(centres).area() < 0.0) std::reverse(centres.begin(), centres.end());
     return centres;
 }
 
+class Finder {
+public:
+    Finder(const ObjectMask& mask, double leastArea) : enlargement_(mask.enlargement), leastArea_(leastArea) {
+        cv::findContours(mask.pixels, borders_, links_, cv::RETR_CCOMP, cv::CHAIN_APPROX_NONE);
+    }
+
+    Outlines find() {
+        for (int i = 0; i >= 0 && !borders_.empty(); i = links_[index(i)][kNext]) {
+            const Vertices outline = vertices(i);
+            if (gf_Area(outline) < leastArea_) continue;
+            found_.regions.emplace_back(new gkRegion(outline));
+            addHoles(*found_.regions.back(), links_[index(i)][kFirstChild]);
+        }
+        return found_;
+    }
+
+private:
+    static constexpr int kNext = 0; // places in a link of the hierarchy
+    static constexpr int kFirstChild = 2;
+
+    static std::size_t index(int i) { return static_cast<std::size_t>(i); }
+
+    Vertices vertices(int i) const { return pixelCentres(borders_[index(i)], enlargement_); }
+
+    void addHoles(gkRegion& region, int first) {
+        for (int i = first; i >= 0; i = links_[index(i)][kNext]) {
+            const Vertices hole = vertices(i);
+            if (gf_Area(hole) < leastArea_) continue;
+            Holes holes = region.holes();
+            holes.emplace_back(new gkRegion(hole));
+            try {
+                region.holes(holes);
+            } catch (const gkContourDefs::BadParams&) {
+                ++found_.refusedHoles;
+            }
+        }
+    }
+
+    std::vector<Border> borders_;
+    std::vector<cv::Vec4i> links_;
+    int enlargement_;
+    double leastArea_;
+    Outlines found_;
+};
+
 } // namespace
 
-std::vector<gkContour> findOutlines(const cv::Mat& picture, double leastArea) {
-    cv::Mat gray;
-    cv::cvtColor(picture, gray, cv::COLOR_BGR2GRAY);
-    cv::GaussianBlur(gray, gray, cv::Size(5, 5), 0);
-    cv::Mat difference = withoutBackground(gray);
-    const cv::Mat rough = solid(standingOut(difference));
-    if (isDarker(difference, rough)) difference = -difference;
-    const cv::Mat mask = solid(withOwnThresholds(difference, rough));
-
-    std::vector<gkContour> outlines;
-    for (const std::vector<cv::Point>& border : outerBorders(mask)) {
-        const std::vector<gkVector<2>> vertices = pixelCentres(border);
-        if (gf_Area(vertices) >= leastArea) outlines.emplace_back(vertices, true, 0);
-    }
-    sortForReading(outlines);
-    for (std::size_t i = 0; i < outlines.size(); ++i) outlines[i].label(i + 1);
-    return outlines;
+Outlines findOutlines(const cv::Mat& picture, double leastArea) {
+    Outlines found = Finder(findObjects(picture), leastArea).find();
+    sortForReading(found.regions);
+    for (std::size_t i = 0; i < found.regions.size(); ++i) found.regions[i]->label(i + 1);
+    return found;
 }

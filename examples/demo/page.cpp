@@ -10,10 +10,13 @@ constexpr double kMostEnlarged = 8;
 } // namespace
 
 const Key Page::outline = {"outline", gkColor(255, 221, 51), 5.0, false};
+const Key Page::hole = {"hole", gkColor(255, 90, 70), 5.0, false};
 const Key Page::hull = {"convex hull", gkColor(64, 224, 255), 2.0, false};
 const Key Page::ellipse = {"fitted ellipse", gkColor(255, 70, 200), 2.0, false};
+const Key Page::momentsEllipse = {"ellipse of the moments", gkColor(150, 150, 255), 2.0, false};
 const Key Page::farthestPair = {"farthest pair", gkColor(120, 255, 120), 2.0, false};
 const Key Page::meanPosition = {"mean position", gkColor(255, 120, 60), 3.5, true};
+const Key Page::centerOfMass = {"centre of mass", gkColor(40, 130, 255), 2.2, true};
 
 Page::Page(long width, long height, double wantedSide) : width_(width) {
     const double side = static_cast<double>(std::max(width, height));
@@ -26,7 +29,7 @@ Page::Page(long width, long height, double wantedSide) : width_(width) {
 void Page::layOutLegend(double top) {
     const double gap = textHeight();
     gkVector<2> next(gap, top + 1.3 * gap);
-    for (Key key : {outline, hull, ellipse, farthestPair, meanPosition}) {
+    for (Key key : {outline, hole, hull, ellipse, momentsEllipse, farthestPair, meanPosition, centerOfMass}) {
         const double length = sampleLength() + 0.5 * gap + textWidth(key.text, textHeight());
         if (next.x() > gap && next.x() + length > static_cast<double>(width_))
             next = gkVector<2>(gap, next.y() + 1.6 * gap);

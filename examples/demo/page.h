@@ -40,10 +40,13 @@ public:
     }
 
     static const Key outline;
+    static const Key hole;
     static const Key hull;
     static const Key ellipse;
+    static const Key momentsEllipse;
     static const Key farthestPair;
     static const Key meanPosition;
+    static const Key centerOfMass;
 
 private:
     void layOutLegend(double top);

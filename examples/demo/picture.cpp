@@ -12,6 +12,8 @@ constexpr gkColor kPaper(24, 26, 30);
 constexpr gkUITablet::Layers kShapes = gkUITablet::eOverlayLayer;
 constexpr gkUITablet::Layers kText = gkUITablet::eLabelLayer;
 
+using Regions = std::vector<gkPtrHandle<gkRegion>>;
+
 gkPair<double> pair(const gkVector<2>& v) { return gkPair<double>(v.x(), v.y()); }
 
 // A surface and a page: the surfaces set their stroke width alike, but the abstract one leaves it to them.
@@ -30,32 +32,30 @@ public:
                           photo.pngBytes, gkUITablet::eImageLayer);
     }
 
-    void contour(const gkContour& contour, const Key& key) {
-        use(key);
-        contour.draw(tablet_, gkContourDefs::eDrawOutline, key.color, kShapes);
+    void region(const gkRegion& region) {
+        contour(region, Page::outline);
+        for (const gkPtrHandle_const<gkRegion>& hole : region.holes()) contour(*hole, Page::hole);
     }
 
     void measures(const Measures& object) {
         contour(object.hull, Page::hull);
-        if (object.fit) {
-            const gkEllipse& ellipse = object.fit->ellipse;
-            use(Page::ellipse);
-            tablet_.drawEllipse(pair(ellipse.center().vector()), pair(ellipse.radii()), ellipse.rotation(),
-                                Page::ellipse.color, kShapes);
-        }
+        if (object.fit) ellipse(object.fit->ellipse, Page::ellipse);
+        if (object.momentsEllipse) ellipse(*object.momentsEllipse, Page::momentsEllipse);
         use(Page::farthestPair);
         tablet_.drawLineSeg(pair(object.farthestPair.p1()), pair(object.farthestPair.p2()),
                             Page::farthestPair.color, kShapes);
         use(Page::meanPosition);
         tablet_.drawPoint(pair(object.meanPosition), Page::meanPosition.color, kShapes);
+        use(Page::centerOfMass);
+        tablet_.drawPoint(pair(object.centerOfMass), Page::centerOfMass.color, kShapes);
     }
 
-    // At the upper left corner of the object's box, where a round object leaves room.
+    // Above the upper left corner of the object's box, where a round object leaves room.
     void number(const gkContour& contour) {
         const std::string text = std::to_string(contour.label());
         const double height = 1.2 * page_.textHeight();
         const double width = Page::textWidth(text, height);
-        const gkVector<2> corner = contour.encloseRect(gkXform<2>()).ul();
+        const gkVector<2> corner = contour.encloseRect(gkXform<2>()).ul() - gkVector<2>(0.0, 0.5 * height);
         const gkVector<2> left(std::max(corner.x(), 0.8 * height), std::max(corner.y(), 0.8 * height));
         tablet_.strokeWidth(1.3 * height);
         tablet_.drawLineSeg(pair(left), pair(left + gkVector<2>(width - 0.5 * height, 0.0)),
@@ -79,6 +79,17 @@ public:
     }
 
 private:
+    void contour(const gkContour& contour, const Key& key) {
+        use(key);
+        contour.draw(tablet_, gkContourDefs::eDrawOutline, key.color, kShapes);
+    }
+
+    void ellipse(const gkEllipse& ellipse, const Key& key) {
+        use(key);
+        tablet_.drawEllipse(pair(ellipse.center().vector()), pair(ellipse.radii()), ellipse.rotation(),
+                            key.color, kShapes);
+    }
+
     void use(const Key& key) { tablet_.strokeWidth(key.width * page_.pen()); }
 
     const Page& page_;
@@ -86,12 +97,12 @@ private:
 };
 
 template <class Tablet>
-void paint(Painter<Tablet>& painter, const Photograph& photograph, const std::vector<gkContour>& outlines,
+void paint(Painter<Tablet>& painter, const Photograph& photograph, const Regions& regions,
            const std::vector<Measures>& objects) {
     painter.photograph(photograph);
-    for (const gkContour& outline : outlines) painter.contour(outline, Page::outline);
+    for (const gkPtrHandle<gkRegion>& region : regions) painter.region(*region);
     for (const Measures& object : objects) painter.measures(object);
-    for (const gkContour& outline : outlines) painter.number(outline);
+    for (const gkPtrHandle<gkRegion>& region : regions) painter.number(*region);
     painter.legend();
 }
 
@@ -100,17 +111,17 @@ std::filesystem::path withSuffix(std::filesystem::path stem, const char* suffix)
 } // namespace
 
 std::vector<std::filesystem::path> savePictures(const std::filesystem::path& stem, const Photograph& photograph,
-                                                const std::vector<gkContour>& outlines,
-                                                const std::vector<Measures>& objects, double wantedSide) {
+                                                const Regions& regions, const std::vector<Measures>& objects,
+                                                double wantedSide) {
     const std::vector<std::filesystem::path> files = {withSuffix(stem, ".png"), withSuffix(stem, ".svg"),
                                                       withSuffix(stem, ".pdf")};
     const Page page(photograph.width, photograph.height, wantedSide);
     Painter<gkCairoTablet> cairo(page);
-    paint(cairo, photograph, outlines, objects);
+    paint(cairo, photograph, regions, objects);
     cairo.tablet().savePng(files[0]);
     cairo.tablet().savePdf(files[2]);
     Painter<gkSvgTablet> svg(page);
-    paint(svg, photograph, outlines, objects);
+    paint(svg, photograph, regions, objects);
     svg.tablet().save(files[1]);
     return files;
 }

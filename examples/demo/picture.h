@@ -14,10 +14,10 @@ struct Photograph {
     std::vector<unsigned char> pngBytes;
 };
 
-// Writes `stem`.png, .svg and .pdf and returns their names. `objects` are the measures of `outlines`, in the
+// Writes `stem`.png, .svg and .pdf and returns their names. `objects` are the measures of `regions`, in the
 // same order; `wantedSide` is the length the longer side should come to, see Page.
 std::vector<std::filesystem::path> savePictures(const std::filesystem::path& stem, const Photograph& photograph,
-                                                const std::vector<gkContour>& outlines,
+                                                const std::vector<gkPtrHandle<gkRegion>>& regions,
                                                 const std::vector<Measures>& objects, double wantedSide);
 
 #endif

@@ -2,19 +2,31 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <system_error>
 
 namespace {
 
 using Cells = std::vector<std::string>;
 
-const Cells kNames = {"no",   "vertices",   "closed", "length",   "mean x",    "mean y",        "diameter",
-                      "hull", "ellipse r1", "r2",     "rotation", "rms error", "crosses itself"};
-const Cells kUnits = {"", "", "", "px", "px", "px", "px", "vertices", "px", "px", "deg", "px", ""};
+const Cells kOutlineNames = {"no",       "vertices",  "closed",        "length",     "mean x",
+                             "mean y",   "diameter",  "hull",          "ellipse r1", "r2",
+                             "rotation", "rms error", "crosses itself"};
+const Cells kOutlineUnits = {"", "", "", "px", "px", "px", "px", "vertices", "px", "px", "deg", "px", ""};
+
+const Cells kAreaNames = {"no", "holes",   "area", "filled", "centre of mass x", "y", "moments' ellipse r1",
+                          "r2", "rotation"};
+const Cells kAreaUnits = {"", "", "px^2", "px^2", "px", "px", "px", "px", "deg"};
 
 std::string yesNo(bool value) { return value ? "yes" : "no"; }
 
-Cells cells(const Measures& object) {
+void addEllipse(const gkEllipse& ellipse, Cells& row) {
+    row.push_back(fixed(ellipse.radii().x(), 2));
+    row.push_back(fixed(ellipse.radii().y(), 2));
+    row.push_back(fixed(gkDegree(ellipse.rotation()).toDouble(), 1));
+}
+
+Cells outlineCells(const Measures& object) {
     Cells row = {std::to_string(object.number),
                  std::to_string(object.vertices),
                  yesNo(object.closed),
@@ -24,15 +36,23 @@ Cells cells(const Measures& object) {
                  fixed(object.diameter, 2),
                  std::to_string(object.hull.points().size())};
     if (object.fit) {
-        const gkEllipse& ellipse = object.fit->ellipse;
-        row.push_back(fixed(ellipse.radii().x(), 2));
-        row.push_back(fixed(ellipse.radii().y(), 2));
-        row.push_back(fixed(gkDegree(ellipse.rotation()).toDouble(), 1));
+        addEllipse(object.fit->ellipse, row);
         row.push_back(fixed(object.fit->error, 3));
     } else {
         row.insert(row.end(), 4, "-");
     }
     row.push_back(yesNo(object.crossesItself));
+    return row;
+}
+
+Cells areaCells(const Measures& object) {
+    Cells row = {
+        std::to_string(object.number), std::to_string(object.holes),      fixed(object.area, 2),
+        fixed(object.filledArea, 2),   fixed(object.centerOfMass.x(), 2), fixed(object.centerOfMass.y(), 2)};
+    if (object.momentsEllipse)
+        addEllipse(*object.momentsEllipse, row);
+    else
+        row.insert(row.end(), 3, "-");
     return row;
 }
 
@@ -44,6 +64,17 @@ std::string line(const Cells& row, const std::vector<std::size_t>& widths) {
     return text + '\n';
 }
 
+std::string table(std::vector<Cells> rows, const std::vector<Measures>& objects,
+                  Cells (*cells)(const Measures&)) {
+    std::transform(objects.begin(), objects.end(), std::back_inserter(rows), cells);
+    std::vector<std::size_t> widths(rows.front().size(), 0);
+    for (const Cells& row : rows)
+        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+    std::string text;
+    for (const Cells& row : rows) text += line(row, widths);
+    return text;
+}
+
 } // namespace
 
 std::string fixed(double value, int digits) {
@@ -53,13 +84,14 @@ std::string fixed(double value, int digits) {
     return end.ec == std::errc() ? std::string(text, end.ptr) : std::string("?");
 }
 
-std::string table(const std::vector<Measures>& objects) {
-    std::vector<Cells> rows = {kNames, kUnits};
-    std::transform(objects.begin(), objects.end(), std::back_inserter(rows), cells);
-    std::vector<std::size_t> widths(kNames.size(), 0);
-    for (const Cells& row : rows)
-        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
-    std::string text;
-    for (const Cells& row : rows) text += line(row, widths);
-    return text;
+std::string counted(std::size_t count, const std::string& noun) {
+    return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
+std::string tableOfOutlines(const std::vector<Measures>& objects) {
+    return table({kOutlineNames, kOutlineUnits}, objects, outlineCells);
+}
+
+std::string tableOfAreas(const std::vector<Measures>& objects) {
+    return table({kAreaNames, kAreaUnits}, objects, areaCells);
 }

@@ -7,10 +7,15 @@
 #include <string>
 #include <vector>
 
-// Two heading lines, then one line per object; columns are aligned and numbers written the same way everywhere.
-std::string table(const std::vector<Measures>& objects);
+// Two heading lines, then one line per object; columns are aligned and numbers
+// written the same way everywhere. One table tells of outlines, the other of the areas inside them.
+std::string tableOfOutlines(const std::vector<Measures>& objects);
+std::string tableOfAreas(const std::vector<Measures>& objects);
 
 // `value` with this many digits after the point, which is always a point.
 std::string fixed(double value, int digits);
+
+// "1 hole", "2 holes".
+std::string counted(std::size_t count, const std::string& noun);
 
 #endif

@@ -22,6 +22,19 @@ int exitStatus(int result) {
 #endif
 }
 
+std::vector<std::vector<std::string>> rowsOf(const std::string& printed, std::size_t columns) {
+    std::vector<std::vector<std::string>> rows;
+    std::istringstream lines(printed);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        const std::vector<std::string> cells{std::istream_iterator<std::string>(words),
+                                             std::istream_iterator<std::string>()};
+        if (cells.size() == columns && std::isdigit(static_cast<unsigned char>(cells[0][0])) != 0)
+            rows.push_back(cells);
+    }
+    return rows;
+}
+
 } // namespace
 
 Folder::Folder() {
@@ -49,14 +62,14 @@ Outcome runDemo(const Folder& folder, const std::vector<std::string>& arguments)
 }
 
 cv::Mat pictureOf(const std::vector<Disc>& discs, int width, int height, bool uneven) {
-    cv::Mat picture(height, width, CV_8UC1, cv::Scalar(40));
+    cv::Mat picture(height, width, CV_8UC1, cv::Scalar(kGround));
     for (int row = 0; row < height; ++row) {
         for (int column = 0; column < width; ++column) {
             unsigned char& pixel = picture.at<unsigned char>(row, column);
             for (const Disc& disc : discs) {
                 const double x = column + 0.5 - disc.x;
                 const double y = row + 0.5 - disc.y;
-                if (x * x + y * y <= disc.radius * disc.radius) pixel = 150;
+                if (x * x + y * y <= disc.radius * disc.radius) pixel = disc.level;
             }
             if (uneven) pixel = static_cast<unsigned char>(pixel + 100 * (width - 1 - column) / width);
         }
@@ -73,15 +86,6 @@ std::string readText(const std::filesystem::path& file) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-std::vector<std::vector<std::string>> rowsOf(const std::string& printed) {
-    std::vector<std::vector<std::string>> rows;
-    std::istringstream lines(printed);
-    for (std::string line; std::getline(lines, line);) {
-        std::istringstream words(line);
-        const std::vector<std::string> cells{std::istream_iterator<std::string>(words),
-                                             std::istream_iterator<std::string>()};
-        if (cells.size() == 13 && std::isdigit(static_cast<unsigned char>(cells[0][0])) != 0)
-            rows.push_back(cells);
-    }
-    return rows;
-}
+std::vector<std::vector<std::string>> outlinesOf(const std::string& printed) { return rowsOf(printed, 13); }
+
+std::vector<std::vector<std::string>> areasOf(const std::string& printed) { return rowsOf(printed, 9); }

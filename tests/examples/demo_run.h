@@ -34,16 +34,20 @@ struct Disc {
     double x; // of the centre, (0, 0) being the corner of the first pixel
     double y;
     double radius;
+    unsigned char level = 150; // with kGround it is a hole in an earlier one
 };
 
-// Pixels whose centre lies in a disc are 150, all others 40; lit from the left (100 levels more there) when
-// `uneven`.
+constexpr unsigned char kGround = 40;
+
+// Pixels whose centre lies in a disc have the level of the last such disc, all others kGround; lit from the
+// left (100 levels more there) when `uneven`.
 cv::Mat pictureOf(const std::vector<Disc>& discs, int width, int height, bool uneven);
 
 void writeText(const std::filesystem::path& file, const std::string& text);
 std::string readText(const std::filesystem::path& file);
 
-// The table's rows, cell by cell, without its two heading lines.
-std::vector<std::vector<std::string>> rowsOf(const std::string& printed);
+// The rows of a table, cell by cell, without its two heading lines; the tables differ in their columns.
+std::vector<std::vector<std::string>> outlinesOf(const std::string& printed);
+std::vector<std::vector<std::string>> areasOf(const std::string& printed);
 
 #endif

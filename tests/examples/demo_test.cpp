@@ -1,5 +1,5 @@
 // tests/examples/demo_test.cpp - the demo as its users run it. Oracle: discs of known place and radius.
-#include "cntr/contour.h"
+#include "cntr/regionst.h"
 #include "platform/core/archive/archive_file.h"
 #include "tests/examples/demo_run.h"
 
@@ -65,7 +65,7 @@ TEST(Demo, MeasuresDiscsInReadingOrder) {
     EXPECT_EQ(0, run.status);
     EXPECT_EQ("", run.complaint);
     EXPECT_THAT(run.printed, HasSubstr("300 x 220 pixels, 5 objects\n"));
-    expectDiscs(rowsOf(run.printed));
+    expectDiscs(outlinesOf(run.printed));
 }
 
 TEST(Demo, FindsThemUnderUnevenLight) {
@@ -73,7 +73,7 @@ TEST(Demo, FindsThemUnderUnevenLight) {
     const Outcome run =
         runDemo(folder, {savedPicture(folder, kDiscs, true), "--out", folder.file("out").string()});
     EXPECT_EQ(0, run.status);
-    expectDiscs(rowsOf(run.printed));
+    expectDiscs(outlinesOf(run.printed));
 }
 
 TEST(Demo, FindsDarkObjectsOnBrightGround) {
@@ -82,26 +82,27 @@ TEST(Demo, FindsDarkObjectsOnBrightGround) {
     cv::imwrite(file, cv::Scalar(255) - pictureOf(kDiscs, 300, 220, true));
     const Outcome run = runDemo(folder, {file, "--out", folder.file("out").string()});
     EXPECT_EQ(0, run.status);
-    expectDiscs(rowsOf(run.printed));
+    expectDiscs(outlinesOf(run.printed));
 }
 
-TEST(Demo, KeepsTheContoursInAnArchive) {
+TEST(Demo, KeepsTheRegionsInAnArchive) {
     const Folder folder;
     const Outcome run =
         runDemo(folder, {savedPicture(folder, kDiscs, false), "--out", folder.file("out").string()});
-    EXPECT_THAT(run.printed, HasSubstr("holds 5 contours; read back, they are equal.\n"));
+    EXPECT_THAT(run.printed, HasSubstr("holds 5 regions; read back, they are equal.\n"));
 
-    std::vector<gkPtrHandle<gkContour>> contours;
-    gkArchiveFile archive(folder.file("out/discs_contours.gka"), gkArchiveFile::eLoad);
-    archive || contours;
+    gkRegionSet set;
+    gkArchiveFile archive(folder.file("out/discs_regions.gka"), gkArchiveFile::eLoad);
+    archive || set;
     archive.close();
-    const std::vector<std::vector<std::string>> rows = rowsOf(run.printed);
-    ASSERT_EQ(rows.size(), contours.size());
+    const std::vector<gkPtrHandle_const<gkRegion>> regions = set.regions();
+    const std::vector<std::vector<std::string>> rows = outlinesOf(run.printed);
+    ASSERT_EQ(rows.size(), regions.size());
     for (std::size_t i = 0; i < rows.size(); ++i) {
         SCOPED_TRACE(i);
-        EXPECT_EQ(rows[i][0], std::to_string(contours[i]->label()));
-        EXPECT_EQ(rows[i][1], std::to_string(contours[i]->points().size()));
-        for (const gkVector<2>& vertex : contours[i]->points())
+        EXPECT_EQ(rows[i][0], std::to_string(regions[i]->label()));
+        EXPECT_EQ(rows[i][1], std::to_string(regions[i]->points().size()));
+        for (const gkVector<2>& vertex : regions[i]->points())
             EXPECT_NEAR(kDiscs[i].radius - 0.5, vertex.distance(gkVector<2>(kDiscs[i].x, kDiscs[i].y)), 1.5);
     }
 }
@@ -115,8 +116,8 @@ TEST(Demo, WritesThePictureInThreeFormats) {
     EXPECT_GT(png.rows, 440); // and the legend below it
     EXPECT_THAT(readText(folder.file("out/discs_measured.pdf")), StartsWith("%PDF"));
     const std::string svg = readText(folder.file("out/discs_measured.svg"));
-    for (const char* part :
-         {"<image", "<ellipse", ">5</text>", "convex hull", "farthest pair", "mean position"})
+    for (const char* part : {"<image", "<ellipse", ">5</text>", "hole", "convex hull", "farthest pair",
+                             "mean position", "centre of mass", "ellipse of the moments"})
         EXPECT_THAT(svg, HasSubstr(part));
 }
 
@@ -124,8 +125,9 @@ TEST(Demo, LeavesOutSpecks) {
     const Folder folder;
     const std::string file = savedPicture(folder, {{60, 60, 30}, {150, 60, 5.5}}, false);
     const std::string out = folder.file("out").string();
-    EXPECT_EQ(2U, rowsOf(runDemo(folder, {file, "--out", out}).printed).size()); // pi 5^2 = 78.5 is above 64
-    EXPECT_EQ(1U, rowsOf(runDemo(folder, {file, "--out", out, "--least-area", "100"}).printed).size());
+    EXPECT_EQ(2U,
+              outlinesOf(runDemo(folder, {file, "--out", out}).printed).size()); // pi 5^2 = 78.5 is above 64
+    EXPECT_EQ(1U, outlinesOf(runDemo(folder, {file, "--out", out, "--least-area", "100"}).printed).size());
 }
 
 TEST(Demo, OfAMissingFileSaysSo) {
@@ -186,7 +188,27 @@ TEST(Demo, RefusesWhatItDoesNotUnderstand) {
     expectOneSentence(runDemo(folder, {file, "--out", out, "--colour"}), "There is no option '--colour'");
     expectOneSentence(runDemo(folder, {file, file, "--out", out}), "Only one image");
     expectOneSentence(runDemo(folder, {file, "--out", out, "--side", "wide"}), "not 'wide'");
+    for (const char* part : {"1,2,3", "1,2,3,4,5", "1,2,3,-4", "all"})
+        expectOneSentence(runDemo(folder, {file, "--out", out, "--part", part}),
+                          "LEFT,TOP,WIDTH,HEIGHT, not '");
+    for (const char* part : {"0,0,301,220", "1,0,300,220", "0,10,300,211", "10,10,0,5"})
+        expectOneSentence(runDemo(folder, {file, "--out", out, "--part", part}), "does not lie within");
     EXPECT_FALSE(std::filesystem::exists(out));
+}
+
+TEST(Demo, MeasuresAPartOfThePicture) {
+    const Folder folder;
+    const std::string file =
+        savedPicture(folder, {{60, 58, 16}, {130, 100, 12}, {250, 150, 30}, {100, 200, 15}}, false);
+    const Outcome run =
+        runDemo(folder, {file, "--out", folder.file("out").string(), "--part", "20,10,170,150"});
+    EXPECT_THAT(run.printed, HasSubstr("170 x 150 pixels, 2 objects\n"));
+    const std::vector<std::vector<std::string>> rows = outlinesOf(run.printed);
+    ASSERT_EQ(2U, rows.size());
+    EXPECT_NEAR(40, std::stod(rows[0][4]), 0.5);
+    EXPECT_NEAR(48, std::stod(rows[0][5]), 0.5);
+    EXPECT_NEAR(110, std::stod(rows[1][4]), 0.5);
+    EXPECT_NEAR(90, std::stod(rows[1][5]), 0.5);
 }
 
 TEST(Demo, RefusesAFolderThatIsAFile) {
