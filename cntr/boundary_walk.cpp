@@ -2,14 +2,18 @@
 
 #include "cntr/contour_defs.h"
 
+#include <cstdint>
 #include <cstring>
 
 namespace {
 
-bool sameBits(const gkVector<2>& a, const gkVector<2>& b) {
-    const double left[] = {a.x(), a.y()};
-    const double right[] = {b.x(), b.y()};
-    return std::memcmp(left, right, sizeof left) == 0;
+// Also true of equal NaNs and false of 0.0 and -0.0: the walk's steps follow from the bits.
+bool sameBits(double a, double b) {
+    std::uint64_t left = 0;
+    std::uint64_t right = 0;
+    std::memcpy(&left, &a, sizeof left);
+    std::memcpy(&right, &b, sizeof right);
+    return left == right;
 }
 
 bool canStart(gk_Outline& outline, long i, double probe) {
@@ -33,7 +37,8 @@ struct WalkState {
     bool forward;
 
     bool operator==(const WalkState& other) const {
-        return position == other.position && forward == other.forward && sameBits(point, other.point);
+        return position == other.position && forward == other.forward && sameBits(point.x(), other.point.x()) &&
+               sameBits(point.y(), other.point.y());
     }
 };
 
@@ -45,8 +50,8 @@ WalkState stepped(gk_Outline& outline, const WalkState& state) {
     return {target, gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n), state.forward};
 }
 
-// Brent's method: a state met again proves a loop. The state to compare with is replaced after 1, 2, 4, ... steps, so
-// any loop is found within a few of its lengths, with one state kept.
+// Brent's method: a state met again proves a loop. The state to compare with is replaced after 1, 2, 4, ...
+// steps, so any loop is found within a few of its lengths, with one state kept.
 class LoopDetector {
 public:
     explicit LoopDetector(const WalkState& first) : kept_(first) {}

@@ -42,8 +42,8 @@ bool gkContour::gsSTLLessPredicate::operator()(const gkRadian& a, const gkRadian
 
 bool gkContour::gsSTLLessPredicate::operator()(const gkXform<2>& a, const gkXform<2>& b) const {
     // Element (1,1) is left out on purpose; see the header before adding it.
-    const double left[] = {a.translation().x(), a.translation().y(), a.matrix().element(0, 0), a.matrix().element(0, 1),
-                           a.matrix().element(1, 0)};
+    const double left[] = {a.translation().x(), a.translation().y(), a.matrix().element(0, 0),
+                           a.matrix().element(0, 1), a.matrix().element(1, 0)};
     const double right[] = {b.translation().x(), b.translation().y(), b.matrix().element(0, 0),
                             b.matrix().element(0, 1), b.matrix().element(1, 0)};
     return lexicographicallyLess(left, right);
@@ -64,22 +64,23 @@ gkContour::Caches::~Caches() = default;
 
 gkContour::gkContour() : gkContour(std::vector<gkVector<2>>(), true, 0) {}
 
-// A constructor reaches this class's own hook, which only forgets results; a derived class fills its data itself.
+// A constructor reaches this class's own hook, which only forgets results; a derived class fills its data
+// itself.
 gkContour::gkContour(const std::vector<gkVector<2>>& points, bool closed, unsigned long label) {
     value_.label = fittingLabel(label);
     value_.closed = closed;
     value_.points = points;
-    gkContour::makeDataConsistentWithPoints();
+    gkContour::cleanCacheInfo();
 }
 
 gkContour::gkContour(const gkPolygon& polygon, unsigned long label) {
     value_.label = fittingLabel(label);
     value_.points = polygon.vertices();
     value_.closed = gfRealEq(polygon[0], polygon[polygon.size() - 1], 1e-15);
-    gkContour::makeDataConsistentWithPoints();
+    gkContour::cleanCacheInfo();
 }
 
-gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(other), value_(), caches_() {
+gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(other), value_() {
     gkContour::operator=(other);
 }
 

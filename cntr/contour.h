@@ -38,26 +38,28 @@ struct gk_SegmentCache;
 /// | label | no | yes | yes |
 /// | kept results | no | yes | no |
 ///
-/// Results are kept in the object until the geometry changes (points(), isClosed(bool), loading); const queries fill
-/// them. So one contour belongs to one thread at a time, even for reads; distinct contours, also copies that share a
-/// kept hull, are independent.
+/// Results are kept in the object until the geometry changes (points(), isClosed(bool), loading); const queries
+/// fill them. So one contour belongs to one thread at a time, even for reads; distinct contours, also copies
+/// that share a kept hull, are independent.
 ///
-/// Segments: a closed contour of n vertices has n, segment k ending at vertex k, segment 0 being the closing one; an open
-/// contour has n - 1, segment k starting at vertex k. Ties go to the lowest index everywhere.
+/// Segments: a closed contour of n vertices has n, segment k ending at vertex k, segment 0 being the closing
+/// one; an open contour has n - 1, segment k starting at vertex k. Ties go to the lowest index everywhere.
 ///
-/// Units are those of the vertices. Tolerances are absolute (1e-15 for equal points, 1e-6 for touching), so coordinates
-/// in metres are best scaled up first. Vertices may be NaN or infinite: nothing hangs or reads out of bounds, and each
-/// operation says what it then returns. No vertex list longer than 2^31 - 1 is indexed: BadParams is thrown instead.
+/// Units are those of the vertices. Tolerances are absolute (1e-15 for equal points, 1e-6 for touching), so
+/// coordinates in metres are best scaled up first. Vertices may be NaN or infinite: nothing hangs or reads out
+/// of bounds, and each operation says what it then returns. No vertex list longer than 2^31 - 1 is indexed:
+/// BadParams is thrown instead.
 ///
-/// \b Throws: EmptyContour (empty message) where an operation needs 2 vertices and has fewer; nothing is kept then.
+/// \b Throws: EmptyContour (empty message) where an operation needs 2 vertices and has fewer; nothing is kept
+/// then.
 class GKCNTR_API gkContour : public virtual gkPersistent, public virtual gkRepBase {
 public:
     /// Orders the keys of the maps that keep results, exactly and without tolerance.
     struct GKCNTR_API gsSTLLessPredicate {
         /// By raw value: 0 and 2 pi are different keys.
         bool operator()(const gkRadian& a, const gkRadian& b) const;
-        /// By translation x, y, then matrix elements (0,0), (0,1), (1,0). Element (1,1) takes no part, on purpose: two
-        /// transforms that differ only there are one key and share one kept result.
+        /// By translation x, y, then matrix elements (0,0), (0,1), (1,0). Element (1,1) takes no part, on
+        /// purpose: two transforms that differ only there are one key and share one kept result.
         bool operator()(const gkXform<2>& a, const gkXform<2>& b) const;
         /// As vectors: by x, then by y.
         bool operator()(const gkPair<long>& a, const gkPair<long>& b) const;
@@ -69,8 +71,8 @@ public:
     gkContour();
     /// A contour with these vertices; BadParams when the label does not fit in 32 bits.
     gkContour(const std::vector<gkVector<2>>& points, bool closed, unsigned long label);
-    /// The polygon's vertices, a repeated last one included; closed exactly when its first and last vertex are equal
-    /// within 1e-15. gkMathError::OutOfRange for a polygon without vertices.
+    /// The polygon's vertices, a repeated last one included; closed exactly when its first and last vertex are
+    /// equal within 1e-15. gkMathError::OutOfRange for a polygon without vertices.
     gkContour(const gkPolygon& polygon, unsigned long label);
     /// A copy, kept results included; what is held through handles is shared.
     gkContour(const gkContour& other);
@@ -91,18 +93,19 @@ public:
     /// Sets the label; kept results stay. BadParams, and the old label, when it does not fit in 32 bits.
     void label(unsigned long label);
 
-    /// Bound of the maps that keep results by angle and by transform (default 3): each grows to one entry more, then
-    /// replaces a random one.
+    /// Bound of the maps that keep results by angle and by transform (default 3): each grows to one entry more,
+    /// then replaces a random one.
     long cachedVectorSize() const { return value_.cachedVectorSize; }
-    /// Sets the bound; kept results stay. BadParams, and the old bound, when it is negative (empty message) or does not
-    /// fit in 32 bits.
+    /// Sets the bound; kept results stay. BadParams, and the old bound, when it is negative (empty message) or
+    /// does not fit in 32 bits.
     void cachedVectorSize(long size);
 
     /// The vertices as a polygon; of a closed contour with the first vertex once more at the end.
     gkPolygon polygon() const;
 
     /// Sets `out` to this contour with every vertex mapped by `xform`; closed flag and label are taken over.
-    /// `out` gets the default cachedVectorSize 3 whatever this contour's is; the reset is meant. `out` may be *this.
+    /// `out` gets the default cachedVectorSize 3 whatever this contour's is; the reset is meant. `out` may be
+    /// *this.
     void map(const gkXform<2>& xform, gkContour& out) const;
 
     /// Same closed flag, exactly equal vertices, same cachedVectorSize. The label is left out on purpose.
@@ -121,23 +124,25 @@ public:
     /// NaN or infinite when all vertices coincide (a division by zero). Throws EmptyContour. Cost: O(n).
     gkVector<2> meanPosition() const;
 
-    /// The circle over the farthest pair of vertices need not hold every vertex: for an equilateral triangle it does not.
+    /// The circle over the farthest pair of vertices need not hold every vertex: for an equilateral triangle it
+    /// does not.
     ///
-    /// eExact: centre and half distance of the first pair that is farthest apart, O(n^2). When no pair is farther apart
-    /// than 0 (one vertex, all equal, none) the slot keeps what it held, at first the default circle; this is meant.
-    /// eApproximate: centred on the first vertex and reaching the farthest one, O(n); it does hold every vertex.
-    /// Throws BadParams "diameterMode is not one of the valid enums"; EmptyContour for eApproximate without vertices.
-    /// Vertices with NaN never make a pair.
+    /// eExact: centre and half distance of the first pair that is farthest apart, O(n^2). When no pair is
+    /// farther apart than 0 (one vertex, all equal, none) the slot keeps what it held, at first the default
+    /// circle; this is meant. eApproximate: centred on the first vertex and reaching the farthest one, O(n); it
+    /// does hold every vertex. Throws BadParams "diameterMode is not one of the valid enums"; EmptyContour for
+    /// eApproximate without vertices. Vertices with NaN never make a pair.
     gkCircle encloseCircle(gkContourDefs::DiameterMode mode) const;
 
-    /// Twice the radius of encloseCircle(mode): for eExact the greatest distance between two vertices, for eApproximate
-    /// at least that and at most twice as much. Throws as encloseCircle.
+    /// Twice the radius of encloseCircle(mode): for eExact the greatest distance between two vertices, for
+    /// eApproximate at least that and at most twice as much. Throws as encloseCircle.
     double diameter(gkContourDefs::DiameterMode mode) const;
 
     /// Index of the vertex that lies furthest in the direction `angle`, the lowest index among equals.
     ///
-    /// Kept per angle, compared as raw values. Axis directions (cosine and sine within 1e-15) compare the coordinate
-    /// itself. -1 when no vertex has a finite score (NaN coordinates). Throws EmptyContour. Cost: O(n).
+    /// Kept per angle, compared as raw values. Axis directions (cosine and sine within 1e-15) compare the
+    /// coordinate itself. -1 when no vertex has a finite score (NaN coordinates). Throws EmptyContour. Cost:
+    /// O(n).
     long extremalVertexIndex(const gkRadian& angle) const;
 
     /// The vertex at extremalVertexIndex(angle). Throws EmptyContour; BadParams when that index is -1.
@@ -145,18 +150,21 @@ public:
 
     /// Axis-aligned box of the vertices mapped by `xform`, in the transform's output space.
     ///
-    /// Kept per transform; two transforms that differ only in matrix element (1,1) share one kept box, on purpose (see
-    /// gsSTLLessPredicate). A transform within 1e-15 of the identity takes the vertices as they are. NaN coordinates are
-    /// passed over, but one of the first vertex stays. Throws EmptyContour. Cost: O(n).
+    /// Kept per transform; two transforms that differ only in matrix element (1,1) share one kept box, on
+    /// purpose (see gsSTLLessPredicate). A transform within 1e-15 of the identity takes the vertices as they
+    /// are. NaN coordinates are passed over, but one of the first vertex stays. Throws EmptyContour. Cost:
+    /// O(n).
     gkRect encloseRect(const gkXform<2>& xform) const;
 
-    /// Sets `out` to the convex hull of the vertices: counter-clockwise from the lowest x, without collinear vertices.
+    /// Sets `out` to the convex hull of the vertices: counter-clockwise from the lowest x, without collinear
+    /// vertices.
     ///
-    /// Fewer than 3 vertices remain for degenerate input. Vertices with NaN or infinities are left out. `out` may be
-    /// *this. Throws EmptyContour. Cost: O(n log n). Source: Andrew's monotone chain, 1979.
+    /// Fewer than 3 vertices remain for degenerate input. Vertices with NaN or infinities are left out. `out`
+    /// may be *this. Throws EmptyContour. Cost: O(n log n). Source: Andrew's monotone chain, 1979.
     void convexHull(gkRegion& out) const;
 
-    /// The ellipse fitted to the vertices and its error, as gf_FitEllipse; on a throw the outputs stay as they were.
+    /// The ellipse fitted to the vertices and its error, as gf_FitEllipse; on a throw the outputs stay as they
+    /// were.
     ///
     /// Throws EmptyContour and what the fitter throws. Cost: O(n).
     void fitEllipse(gkEllipse& ellipse, double& error) const;
@@ -167,24 +175,25 @@ public:
 
     /// The point of the contour nearest to `p` or, with `verticesOnly`, the nearest vertex.
     ///
-    /// On the first of equally near segments; a segment of length zero counts as its point. (0, 0) when no segment has a
-    /// distance below infinity (NaN or infinite coordinates). Throws EmptyContour. Cost: O(n), keeps nothing.
-    /// Source: Ericson, Real-Time Collision Detection, 5.1.2.
+    /// On the first of equally near segments; a segment of length zero counts as its point. (0, 0) when no
+    /// segment has a distance below infinity (NaN or infinite coordinates). Throws EmptyContour. Cost: O(n),
+    /// keeps nothing. Source: Ericson, Real-Time Collision Detection, 5.1.2.
     gkVector<2> closestPoint(const gkVector<2>& p, bool verticesOnly) const;
 
     /// Index of the vertex nearest to `p`, the lowest among equals; 0 when no distance is below infinity.
     /// Throws EmptyContour. Cost: O(n).
     long closestVertexIndex(const gkVector<2>& p) const;
 
-    /// Distance from `p` to closestPoint(p, verticesOnly). Being inside does not make it zero. Throws EmptyContour.
+    /// Distance from `p` to closestPoint(p, verticesOnly). Being inside does not make it zero. Throws
+    /// EmptyContour.
     double distToPoint(const gkVector<2>& p, bool verticesOnly) const;
 
     /// Indices of all vertices strictly nearer to `p` than `tolerance`, which must be above 0.
     ///
-    /// They come cell by cell (columns outside, rows inside) of a grid of that cell width around `p`, by index within a
-    /// cell: not sorted overall. The grid of every tolerance asked for is kept. Throws EmptyContour; where a coordinate
-    /// divided by the tolerance is NaN, gstd_assert_ is called. Cost: O(n log n) for a new tolerance, then
-    /// O(log n + vertices in the 3 x 3 cells).
+    /// They come cell by cell (columns outside, rows inside) of a grid of that cell width around `p`, by index
+    /// within a cell: not sorted overall. The grid of every tolerance asked for is kept. Throws EmptyContour;
+    /// where a coordinate divided by the tolerance is NaN, gstd_assert_ is called. Cost: O(n log n) for a new
+    /// tolerance, then O(log n + vertices in the 3 x 3 cells).
     std::vector<int> vertexIndex(const gkVector<2>& p, double tolerance) const;
     /// @}
 
@@ -193,21 +202,22 @@ public:
 
     /// The points where `seg` crosses this contour, ordered along `seg`.
     ///
-    /// A crossing at a vertex appears twice, once for each segment that meets there; parallel and collinear segments give
-    /// none. Without `includeEnds`, contour segments within 1e-6 of an end of `seg` are left out. A point counts when it is
-    /// nearer than 1e-6 to both segments. The contour's own box comes from encloseRect of the identity, kept box and
-    /// all: after encloseRect of a transform that differs from the identity only in element (1,1), that box is the one
-    /// used. This is meant. Throws EmptyContour. Cost: O(n + k^2) for k crossings.
+    /// A crossing at a vertex appears twice, once for each segment that meets there; parallel and collinear
+    /// segments give none. Without `includeEnds`, contour segments within 1e-6 of an end of `seg` are left out.
+    /// A point counts when it is nearer than 1e-6 to both segments. The contour's own box comes from
+    /// encloseRect of the identity, kept box and all: after encloseRect of a transform that differs from the
+    /// identity only in element (1,1), that box is the one used. This is meant. Throws EmptyContour. Cost: O(n
+    /// + k^2) for k crossings.
     std::vector<gkVector<2>> intersections(const gkLineSeg& seg, bool includeEnds) const;
 
-    /// The crossings of every segment of `other` with this contour, concatenated in the order of other's segments, ends
-    /// included. `other` may have any number of vertices. Throws EmptyContour. Cost: O(n m).
+    /// The crossings of every segment of `other` with this contour, concatenated in the order of other's
+    /// segments, ends included. `other` may have any number of vertices. Throws EmptyContour. Cost: O(n m).
     std::vector<gkVector<2>> intersections(const gkContour& other) const;
 
     /// True when a segment of the contour crosses another one that does not touch its ends (within 1e-6).
     ///
-    /// A vertex lying on another segment is found from that segment's side; collinear overlaps are not found. False for
-    /// fewer than 2 vertices; never throws for the contour's shape. Cost: O(n^2), kept.
+    /// A vertex lying on another segment is found from that segment's side; collinear overlaps are not found.
+    /// False for fewer than 2 vertices; never throws for the contour's shape. Cost: O(n^2), kept.
     bool isSelfIntersecting() const;
     /// @}
 
@@ -219,8 +229,8 @@ protected:
     void dispatchSerialize(gkArchive& archive) override;
     /// Writes or reads the record (docs/format.md). gkArchive::UnknownVersion for a version other than 0 and 1.
     virtual void serialize_(gkArchive& archive, unsigned char version);
-    /// Called after the vertices changed; a class with data per vertex rebuilds them here. The contour's own forgets the
-    /// kept results.
+    /// Called after the vertices changed; a class with data per vertex rebuilds them here. The contour's own
+    /// forgets the kept results.
     virtual void makeDataConsistentWithPoints();
     /// Called after such data changed, to rebuild the vertices. The contour's own forgets the kept results.
     virtual void makePointsConsistentWithData();
@@ -238,10 +248,12 @@ protected:
     const std::vector<gkLineSeg>& lineSegs() const;
     /// For every segment, whether its ends differ by more than 1e-15.
     const std::vector<bool>& validLine() const;
-    /// Median of the segments' lengths, the upper of the two middle ones for an even count. Throws EmptyContour.
+    /// Median of the segments' lengths, the upper of the two middle ones for an even count. Throws
+    /// EmptyContour.
     double medianFeatureSize() const;
     /// As the public intersections(seg, includeEnds); `segIndices` tells the contour segment of each point.
-    std::vector<gkVector<2>> intersections(const gkLineSeg& seg, std::vector<int>& segIndices, bool includeEnds) const;
+    std::vector<gkVector<2>> intersections(const gkLineSeg& seg, std::vector<int>& segIndices,
+                                           bool includeEnds) const;
 
 private:
     struct Value {

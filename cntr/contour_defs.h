@@ -54,7 +54,8 @@ protected:
     void serialize_(gkArchive& archive, unsigned char version);
 };
 
-/// A contour or region has too few vertices for what was asked: fewer than 2, for a region's measures fewer than 3.
+/// A contour or region has too few vertices for what was asked: fewer than 2, for a region's measures fewer
+/// than 3.
 class GKCNTR_API gkContourDefs::EmptyContour : public gkContourDefs::Errors {
 public:
     explicit EmptyContour(const std::wstring& message);

@@ -8,7 +8,8 @@ std::vector<gkVector<2>> gkContour::intersections(const gkLineSeg& seg, std::vec
                                                   bool includeEnds) const {
     checkEmptyContour();
     segIndices.clear();
-    // Asked like any caller asks, kept box included: a box kept for a transform with another element (1,1) is used.
+    // Asked like any caller asks, kept box included: a box kept for a transform with another element (1,1) is
+    // used.
     if (!encloseRect(gkXform<2>()).overlaps(gk_SegmentBox(seg.p1(), seg.p2()))) return {};
     computeLineSegs();
     std::vector<gk_Crossing> crossings = gk_Crossings(*caches_.segments.get(), seg, includeEnds);
@@ -39,7 +40,8 @@ std::vector<gkVector<2>> gkContour::intersections(const gkContour& other) const 
 }
 
 bool gkContour::isSelfIntersecting() const {
-    if (value_.points.size() < 2) return false; // a lone NaN vertex is unequal to itself and would pass for a segment
+    if (value_.points.size() < 2)
+        return false; // a lone NaN vertex is unequal to itself and would pass for a segment
     if (caches_.selfIntersecting.valid) return caches_.selfIntersecting.value;
     computeLineSegs();
     const gk_SegmentCache& segments = *caches_.segments.get();

@@ -32,7 +32,7 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     if (mode != gkContourDefs::eExact && mode != gkContourDefs::eApproximate) {
         throw gkContourDefs::BadParams(L"diameterMode is not one of the valid enums");
     }
-    const std::size_t slot = mode;
+    const auto slot = static_cast<std::size_t>(mode);
     if (caches_.circleValid[slot]) return caches_.circles[slot];
     if (mode == gkContourDefs::eExact) {
         gk_CircleOverFarthestPair(value_.points, caches_.circles[slot]);
@@ -45,7 +45,9 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     return caches_.circles[slot];
 }
 
-double gkContour::diameter(gkContourDefs::DiameterMode mode) const { return 2.0 * encloseCircle(mode).radius(); }
+double gkContour::diameter(gkContourDefs::DiameterMode mode) const {
+    return 2.0 * encloseCircle(mode).radius();
+}
 
 long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     checkEmptyContour();
@@ -53,7 +55,8 @@ long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     const auto entry = known.find(angle);
     if (entry != known.end()) return entry->second;
     const long index = gk_ExtremalVertex(value_.points, angle);
-    gk_InsertBounded(known, angle, static_cast<std::int32_t>(index), static_cast<std::size_t>(cachedVectorSize()));
+    gk_InsertBounded(known, angle, static_cast<std::int32_t>(index),
+                     static_cast<std::size_t>(cachedVectorSize()));
     mutating();
     return index;
 }

@@ -23,15 +23,16 @@ struct LocalInertia {
 };
 
 LocalInertia baseApexTriangleInertia(double left, double right, double height) {
-    LocalInertia local;
+    LocalInertia local{};
     local.area = (left + right) * height / 2.0;
     local.centerX = (right - left) / 3.0;
     local.centerY = height / 3.0;
-    local.yy = (left + right) * (height * height * height) / 12.0 - local.area * (local.centerY * local.centerY);
+    local.yy =
+        (left + right) * (height * height * height) / 12.0 - local.area * (local.centerY * local.centerY);
     local.xx = (right * right * right + left * left * left) * height / 12.0 -
                local.area * (local.centerX * local.centerX);
-    local.xy = (right * right - left * left) * (height * height) / 24.0 -
-               local.area * local.centerX * local.centerY;
+    local.xy =
+        (right * right - left * left) * (height * height) / 24.0 - local.area * local.centerX * local.centerY;
     return local;
 }
 
@@ -55,9 +56,8 @@ bool isBase(const gkLineSeg& edge, const gkVector<2>& apex) {
 
 gk_InertiaData inertiaOverBase(const gkVector<2>& q1, const gkVector<2>& q2, const gkVector<2>& apex) {
     const gkVector<2> foot = gk_LineOps::proj(gkLineSeg(q1, q2).line(), apex);
-    LocalInertia local =
-        baseApexTriangleInertia(gk_VectorOps::distance(foot, q1), gk_VectorOps::distance(foot, q2),
-                                gk_VectorOps::distance(foot, apex));
+    LocalInertia local = baseApexTriangleInertia(
+        gk_VectorOps::distance(foot, q1), gk_VectorOps::distance(foot, q2), gk_VectorOps::distance(foot, apex));
     if (!(gk_VectorOps::cross(q2 - q1, apex - q1) >= 0.0)) {
         local.area = -local.area;
         local.centerY = -local.centerY;
@@ -66,8 +66,8 @@ gk_InertiaData inertiaOverBase(const gkVector<2>& q1, const gkVector<2>& q2, con
     return placed(local, foot, (q2 - q1).angle());
 }
 
-// One of the three edges is a base in exact arithmetic. With NaN corners, or where rounding denies all three, the search
-// must still end: such a triangle counts for nothing.
+// One of the three edges is a base in exact arithmetic. With NaN corners, or where rounding denies all three,
+// the search must still end: such a triangle counts for nothing.
 gk_InertiaData triangleInertiaData(const gkVector<2>& q1, const gkVector<2>& q2, const gkVector<2>& q3) {
     if (isBase(gkLineSeg(q1, q2), q3)) return inertiaOverBase(q1, q2, q3);
     if (isBase(gkLineSeg(q2, q3), q1)) return inertiaOverBase(q2, q3, q1);
@@ -75,9 +75,9 @@ gk_InertiaData triangleInertiaData(const gkVector<2>& q1, const gkVector<2>& q2,
     return zeroRecord();
 }
 
-// Adds every triangle once, the large pieces of the outline's own orientation first. The order is part of the result:
-// operator+ looks at the first operand's sign. With a negative mean the first pass takes every triangle whose area
-// differs from it either way; this asymmetry between the orientations is meant.
+// Adds every triangle once, the large pieces of the outline's own orientation first. The order is part of the
+// result: operator+ looks at the first operand's sign. With a negative mean the first pass takes every triangle
+// whose area differs from it either way; this asymmetry between the orientations is meant.
 gk_InertiaData summedInPasses(const std::vector<gk_InertiaData>& triangles, double mean) {
     std::vector<bool> added(triangles.size(), false);
     gk_InertiaData sum = zeroRecord();
@@ -121,8 +121,10 @@ gk_InertiaData gk_InertiaData::operator+(const gk_InertiaData& other) const {
     }
     const gkMatrix<2>& a = inertiaMatrix_;
     const gkMatrix<2>& b = other.inertiaMatrix_;
-    const double xx = sa * a.element(0, 0) + wa * (da.x() * da.x()) + sb * b.element(0, 0) + wb * (db.x() * db.x());
-    const double yy = sa * a.element(1, 1) + wa * (da.y() * da.y()) + sb * b.element(1, 1) + wb * (db.y() * db.y());
+    const double xx =
+        sa * a.element(0, 0) + wa * (da.x() * da.x()) + sb * b.element(0, 0) + wb * (db.x() * db.x());
+    const double yy =
+        sa * a.element(1, 1) + wa * (da.y() * da.y()) + sb * b.element(1, 1) + wb * (db.y() * db.y());
     const double xy = sa * a.element(0, 1) + wa * da.x() * da.y() + sb * b.element(0, 1) + wb * db.x() * db.y();
     return gk_InertiaData(total, center, gkMatrix<2>(xx, xy, xy, yy));
 }

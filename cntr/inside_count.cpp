@@ -10,7 +10,8 @@ constexpr double kPi = 3.141592653589793;
 constexpr double kOnVertex = 1e-6; // vertex units
 
 // Fills the normalised directions of the vertices seen from the point; false when one of them is too near.
-bool directionsFrom(const gkVector<2>& point, const std::vector<gkVector<2>>& vertices, std::vector<double>& angles) {
+bool directionsFrom(const gkVector<2>& point, const std::vector<gkVector<2>>& vertices,
+                    std::vector<double>& angles) {
     angles.reserve(vertices.size());
     for (const gkVector<2>& vertex : vertices) {
         const gkVector<2> offset = vertex - point;
@@ -33,8 +34,8 @@ gkVector<2> directionThroughFirstWideGap(std::vector<double>& angles) {
 
 } // namespace
 
-long gk_InsideCount(const std::vector<gkVector<2>>& points, const gkVector<2>& point, double rayLength, bool bothWays,
-                    const gk_CountTowards& countTowards) {
+long gk_InsideCount(const std::vector<gkVector<2>>& points, const gkVector<2>& point, double rayLength,
+                    bool bothWays, const gk_CountTowards& countTowards) {
     std::vector<double> angles;
     if (!directionsFrom(point, points, angles)) return 1;
     const gkVector<2> ray = directionThroughFirstWideGap(angles) * rayLength;

@@ -6,7 +6,8 @@
 #include <memory>
 #include <utility>
 
-/// A kept result and the mark that it is valid. The value may outlive its validity: some slots are read without it.
+/// A kept result and the mark that it is valid. The value may outlive its validity: some slots are read without
+/// it.
 template <class T> struct gk_Kept {
     bool valid = false;
     T value{};

@@ -8,8 +8,8 @@
 // The class that contours once derived from; it has no data. Its record is read and thrown away.
 class gkContourBase : public virtual gkPersistent, public virtual gkRepBase {
 public:
-    // Passes the record through the archive: a version byte, which must be 0, and the gkPersistent record. Never marked
-    // as visited, since the record belongs to another object each time.
+    // Passes the record through the archive: a version byte, which must be 0, and the gkPersistent record.
+    // Never marked as visited, since the record belongs to another object each time.
     void pass(gkArchive& archive);
 };
 

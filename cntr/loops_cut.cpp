@@ -33,8 +33,9 @@ gk_Loop part(const gk_Outline& loop, long from, long to) {
 
 } // namespace
 
-// Ends: a cut turns one loop of m vertices into two that have at least one each, m together, so there are fewer cuts than
-// vertices. After a cut the scan starts over; loops before the cut one were found free of repeats and stay so.
+// Ends: a cut turns one loop of m vertices into two that have at least one each, m together, so there are fewer
+// cuts than vertices. After a cut the scan starts over; loops before the cut one were found free of repeats and
+// stay so.
 std::vector<gk_Loop> gk_CutLoops(const gk_Loop& walked) {
     std::vector<gk_Loop> loops = {walked};
     for (std::size_t i = 0; i < loops.size();) {

@@ -44,8 +44,8 @@ std::vector<gk_Loop> gk_JoinLoops(std::vector<gk_Loop> loops) {
     outlines.reserve(loops.size());
     for (gk_Loop& loop : loops) outlines.emplace_back(std::move(loop));
     for (Join join{}; findJoin(outlines, join);) {
-        outlines[join.one] = gk_Outline(
-            joined(outlines[join.one], join.oneVertex, outlines[join.other], join.otherVertex));
+        outlines[join.one] =
+            gk_Outline(joined(outlines[join.one], join.oneVertex, outlines[join.other], join.otherVertex));
         if (join.other + 1 < outlines.size()) outlines[join.other] = std::move(outlines.back());
         outlines.pop_back();
     }

@@ -17,28 +17,29 @@ double gk_Length(const std::vector<gkVector<2>>& points, bool closed);
 // Mean of the segments' midpoints, weighted by length; a division by zero when all vertices coincide.
 gkVector<2> gk_MeanPosition(const std::vector<gkVector<2>>& points, bool closed);
 
-// Sets `circle` to the one over the first pair of vertices that is farthest apart, in the order (outer i, inner j) over
-// all ordered pairs; leaves it alone when no pair is farther apart than 0.
+// Sets `circle` to the one over the first pair of vertices that is farthest apart, in the order (outer i, inner
+// j) over all ordered pairs; leaves it alone when no pair is farther apart than 0.
 void gk_CircleOverFarthestPair(const std::vector<gkVector<2>>& points, gkCircle& circle);
 
 // The circle around the first vertex that reaches the farthest other one; `points` must not be empty.
 gkCircle gk_CircleAroundFirst(const std::vector<gkVector<2>>& points);
 
-// Index of the vertex that lies furthest in a direction, the lowest index among equals; -1 when no vertex has a score
-// above the most negative double (NaN or infinite coordinates).
+// Index of the vertex that lies furthest in a direction, the lowest index among equals; -1 when no vertex has a
+// score above the most negative double (NaN or infinite coordinates).
 long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gkRadian& angle);
 
 // Box of the vertices mapped by `xform`; `points` must not be empty.
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform);
 
-// Median of the segments' lengths, the upper of the two middle values for an even count; there must be a segment.
+// Median of the segments' lengths, the upper of the two middle values for an even count; there must be a
+// segment.
 double gk_MedianSegmentLength(const std::vector<gkVector<2>>& points, bool closed);
 
 // Index of the vertex nearest to p, the lowest among equals; 0 when no distance is below infinity.
 std::size_t gk_ClosestVertex(const std::vector<gkVector<2>>& points, const gkVector<2>& p);
 
-// The point of the outline nearest to p, on the first of equally near segments; (0, 0) when no distance is below
-// infinity. Segments of length zero count as points.
+// The point of the outline nearest to p, on the first of equally near segments; (0, 0) when no distance is
+// below infinity. Segments of length zero count as points.
 gkVector<2> gk_ClosestPoint(const std::vector<gkVector<2>>& points, bool closed, const gkVector<2>& p);
 
 #endif

@@ -78,8 +78,8 @@ gkEllipse gf_EllipseFromInertiaData(const gk_InertiaData& data) {
     const gkMatrix<2>& moments = data.inertiaMatrix();
     const gkRadian rotation(
         gk_Trig::atan2(2.0 * moments.element(0, 1), moments.element(0, 0) - moments.element(1, 1)) / 2.0);
-    const gkMatrix<2> turned = gkMatrix<2>(-rotation, -rotation, 1.0, 1.0) * moments *
-                               gkMatrix<2>(rotation, rotation, 1.0, 1.0);
+    const gkMatrix<2> turned =
+        gkMatrix<2>(-rotation, -rotation, 1.0, 1.0) * moments * gkMatrix<2>(rotation, rotation, 1.0, 1.0);
     const double along = std::fabs(turned.element(0, 0));
     const double across = std::fabs(turned.element(1, 1));
     if (gfRealEq(along, 0.0, 1e-12) || gfRealEq(across, 0.0, 1e-12)) throw gkMathError::Singular();

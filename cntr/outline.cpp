@@ -8,7 +8,8 @@
 
 gk_Outline::gk_Outline(std::vector<gkVector<2>> points) : points_(std::move(points)) {}
 
-gk_Outline::gk_Outline(std::vector<gkVector<2>> points, const gkRect& box) : points_(std::move(points)), box_(box) {}
+gk_Outline::gk_Outline(std::vector<gkVector<2>> points, const gkRect& box)
+    : points_(std::move(points)), box_(box) {}
 
 void gk_Outline::check() const {
     if (points_.size() < 2) throw gkContourDefs::EmptyContour(L"");

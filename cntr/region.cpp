@@ -19,7 +19,7 @@ gkRegion::gkRegion(const gkContour& contour, gkContourDefs::IntersectionMode mod
 }
 
 gkRegion::gkRegion(const gkRegion& other)
-    : gkPersistent(other), gkRepBase(other), gkContour(std::vector<gkVector<2>>(), true, 0), holes_(), caches_() {
+    : gkPersistent(other), gkRepBase(other), gkContour(std::vector<gkVector<2>>(), true, 0), caches_() {
     gkRegion::operator=(other);
 }
 
@@ -66,7 +66,9 @@ void gkRegion::holes(const std::vector<gkPtrHandle<gkRegion>>& holes) {
     gkRegion::holes(Holes(holes.begin(), holes.end()));
 }
 
-void gkRegion::holes(std::initializer_list<gkPtrHandle_const<gkRegion>> holes) { gkRegion::holes(Holes(holes)); }
+void gkRegion::holes(std::initializer_list<gkPtrHandle_const<gkRegion>> holes) {
+    gkRegion::holes(Holes(holes));
+}
 
 bool gkRegion::isClosed() const { return true; }
 

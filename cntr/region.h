@@ -16,27 +16,31 @@
 /// | holes, as shared handles | no | yes, shared | yes, shared | no |
 /// | kept results | no | yes, repaired regions shared | no | no |
 ///
-/// The outline's own measures are the contour's. The hole list holds shared, read-only regions; a hole's own holes are
-/// not counted by area() and the like, which answer for one level; only inside() looks at all levels.
+/// The outline's own measures are the contour's. The hole list holds shared, read-only regions; a hole's own
+/// holes are not counted by area() and the like, which answer for one level; only inside() looks at all levels.
 ///
-/// Hiding: names declared here would hide the contour's queries of the same name, so the public ones are brought back.
+/// Hiding: names declared here would hide the contour's queries of the same name, so the public ones are
+/// brought back.
 ///
-/// A region belongs to one thread at a time, even for reads, since queries fill caches. Regions that share holes or a
-/// kept repaired region may live on different threads only while nothing is asked of the shared object itself; asking
-/// with considerHoles fills the holes' caches.
+/// A region belongs to one thread at a time, even for reads, since queries fill caches. Regions that share
+/// holes or a kept repaired region may live on different threads only while nothing is asked of the shared
+/// object itself; asking with considerHoles fills the holes' caches.
 ///
-/// \b Throws: EmptyContour (empty message) below 3 vertices from area, centerOfMass, inertiaMatrix and the repairs;
-/// point queries are the contour's and ask for 2.
+/// \b Throws: EmptyContour (empty message) below 3 vertices from area, centerOfMass, inertiaMatrix and the
+/// repairs; point queries are the contour's and ask for 2.
 class GKCNTR_API gkRegion : public virtual gkContour {
 public:
-    /// A region with this outline, without holes and with label 0; `mode` may replace it by its own repaired form.
+    /// A region with this outline, without holes and with label 0; `mode` may replace it by its own repaired
+    /// form.
     ///
     /// Throws what outerHull() and regularize() throw.
     gkRegion(const std::vector<gkVector<2>>& vertices = std::vector<gkVector<2>>(),
              gkContourDefs::IntersectionMode mode = gkContourDefs::eKeepIntersections);
-    /// The same from a polygon's vertices, a repeated last one included. gkMathError::OutOfRange without vertices.
+    /// The same from a polygon's vertices, a repeated last one included. gkMathError::OutOfRange without
+    /// vertices.
     gkRegion(const gkPolygon& polygon, gkContourDefs::IntersectionMode mode);
-    /// The same from a contour, whose label and kept results come along. It is closed whatever the contour was.
+    /// The same from a contour, whose label and cachedVectorSize come along and whose kept results do not. It
+    /// is closed whatever the contour was.
     gkRegion(const gkContour& contour, gkContourDefs::IntersectionMode mode);
     /// A copy; holes and kept repaired regions are shared.
     gkRegion(const gkRegion& other);
@@ -52,10 +56,11 @@ public:
     const std::vector<gkPtrHandle_const<gkRegion>>& holes() const { return holes_; }
     /// Replaces the holes.
     ///
-    /// First forgets every kept result. Then throws BadParams "holes cannot intersect region" when a hole's outline meets
-    /// this outline, a touch in one point included, and keeps the old holes. Holes outside the outline, in each other
-    /// or crossing each other are accepted. A null handle throws gkBadPointer. Throws EmptyContour when there is a hole
-    /// and the outline has fewer than 2 vertices. Cost: O(n m) for each hole of m vertices.
+    /// First forgets every kept result. Then throws BadParams "holes cannot intersect region" when a hole's
+    /// outline meets this outline, a touch in one point included, and keeps the old holes. Holes outside the
+    /// outline, in each other or crossing each other are accepted. A null handle throws gkBadPointer. Throws
+    /// EmptyContour when there is a hole and the outline has fewer than 2 vertices. Cost: O(n m) for each hole
+    /// of m vertices.
     void holes(const std::vector<gkPtrHandle<gkRegion>>& holes);
     void holes(const std::vector<gkPtrHandle_const<gkRegion>>& holes);
     /// The same; lets holes({}) mean no holes.
@@ -67,25 +72,27 @@ public:
     void isClosed(bool closed) override;
 
     using gkContour::map;
-    /// Sets `result` to the mapped outline with this label. Holes are not mapped, on purpose: `result` has none. The new
-    /// outline is not looked at for crossings. `result` may be *this.
+    /// Sets `result` to the mapped outline with this label. Holes are not mapped, on purpose: `result` has
+    /// none. The new outline is not looked at for crossings. `result` may be *this.
     void map(const gkXform<2>& xform, gkRegion& result) const;
 
     using gkContour::draw;
-    /// Draws nothing: a plain region has no picture of its own. gkContour::draw with a draw mode draws the outline.
+    /// Draws nothing: a plain region has no picture of its own. gkContour::draw with a draw mode draws the
+    /// outline.
     virtual void draw(gkUITablet& tablet, const gkColor& color, const gkUITablet::Layers& layers) const;
 
     /// \name Measures
     /// @{
 
-    /// Area inside the outline (gf_Area) or, with `considerHoles`, that minus the area of every hole's outline. Kept.
+    /// Area inside the outline (gf_Area) or, with `considerHoles`, that minus the area of every hole's outline.
+    /// Kept.
     double area(bool considerHoles) const;
 
     /// Centroid of the area inside the outline (gf_CenterOfMass), kept.
     ///
-    /// With `considerHoles` and holes, the area-weighted difference; a quirk that is kept on purpose: the first call after
-    /// a change returns it, later calls return a stored field that is never written, (0, 0) unless copied from
-    /// elsewhere. Infinite or NaN when the holes take all the area.
+    /// With `considerHoles` and holes, the area-weighted difference; a quirk that is kept on purpose: the first
+    /// call after a change returns it, later calls return a stored field that is never written, (0, 0) unless
+    /// copied from elsewhere. Infinite or NaN when the holes take all the area.
     gkVector<2> centerOfMass(bool considerHoles) const;
 
     /// Central second moments of the area inside the outline (gf_InertiaDataPolygon), kept.
@@ -99,24 +106,26 @@ public:
 
     /// Whether the point lies inside, by counting crossings of a ray that stays clear of the vertices.
     ///
-    /// Outside the outline's box: false. Within 1e-6 of a vertex: true. The ray goes through the middle of the first gap
-    /// between vertex directions that is wider than pi / n and is as long as diameter(eApproximate), which can fall
-    /// short of the far side for points outside; edges within 1e-6 of the point are never counted, so a point on an edge
-    /// is decided by the others. With `considerHoles` a point inside a hole (with its own holes considered) is outside;
-    /// holes that contain each other in a ring throw BadParams. Throws EmptyContour below 2 vertices.
-    /// Cost: O(n log n).
+    /// Outside the outline's box: false. Within 1e-6 of a vertex: true. The ray goes through the middle of the
+    /// first gap between vertex directions that is wider than pi / n and is as long as diameter(eApproximate),
+    /// which can fall short of the far side for points outside; edges within 1e-6 of the point are never
+    /// counted, so a point on an edge is decided by the others. With `considerHoles` a point inside a hole
+    /// (with its own holes considered) is outside; holes that contain each other in a ring throw BadParams.
+    /// Throws EmptyContour below 2 vertices. Cost: O(n log n).
     bool inside(const gkVector<2>& point, bool considerHoles) const;
 
     /// Index of the outline's nearest vertex, as gkContour.
     using gkContour::closestVertexIndex;
-    /// Index of the nearest vertex of the outline (`holeIndex` -1) or, with `considerHoles`, of a strictly nearer hole,
-    /// whose place in the list `holeIndex` then tells. Ties keep the outline, then the earlier hole.
+    /// Index of the nearest vertex of the outline (`holeIndex` -1) or, with `considerHoles`, of a strictly
+    /// nearer hole, whose place in the list `holeIndex` then tells. Ties keep the outline, then the earlier
+    /// hole.
     long closestVertexIndex(const gkVector<2>& point, bool considerHoles, long& holeIndex) const;
 
     using gkContour::closestPoint;
     /// The nearest vertex (as closestVertexIndex says) or the nearest point of the outline.
     ///
-    /// Without `verticesOnly` the holes always take part, whatever `considerHoles` says; this asymmetry is meant.
+    /// Without `verticesOnly` the holes always take part, whatever `considerHoles` says; this asymmetry is
+    /// meant.
     gkVector<2> closestPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles) const;
 
     using gkContour::distToPoint;
@@ -138,22 +147,22 @@ public:
     /// @}
 
     /// \name Repair of an outline that crosses itself
-    /// A region whose outline does not cross itself is returned as it is, with holes and label; a repaired one has no
-    /// holes and label 0. `result` may be *this. Results are kept. docs/repair.md shows what to expect.
+    /// A region whose outline does not cross itself is returned as it is, with holes and label; a repaired one
+    /// has no holes and label 0. `result` may be *this. Results are kept. docs/repair.md shows what to expect.
     ///
-    /// Both throw BadParams "invalid contour" when no edge can start the walk around the outline, or when the walk would
-    /// never come back to its start, and EmptyContour below 3 vertices. Cost: O(n) segment queries for the walk, each
-    /// O(n); the start may take O(n) inside tests.
+    /// Both throw BadParams "invalid contour" when no edge can start the walk around the outline, or when the
+    /// walk would never come back to its start, and EmptyContour below 3 vertices. Cost: O(n) segment queries
+    /// for the walk, each O(n); the start may take O(n) inside tests.
     /// @{
 
-    /// Sets `result` to the boundary that a walk around the outline meets, turning at every crossing: one outline, which
-    /// may touch itself in single points.
+    /// Sets `result` to the boundary that a walk around the outline meets, turning at every crossing: one
+    /// outline, which may touch itself in single points.
     void regularize(gkRegion& result) const;
-    /// Sets `result` to that boundary cut at every vertex it visits twice, without the loops that lie inside others,
-    /// joined again where they share a vertex.
+    /// Sets `result` to that boundary cut at every vertex it visits twice, without the loops that lie inside
+    /// others, joined again where they share a vertex.
     ///
-    /// When loops remain that share no vertex, gstd_assert_ is called with line 618; when its handler returns, the first
-    /// is the result.
+    /// When loops remain that share no vertex, gstd_assert_ is called with line 618; when its handler returns,
+    /// the first is the result.
     void outerHull(gkRegion& result) const;
     /// @}
 
@@ -164,7 +173,8 @@ protected:
     void cleanCacheInfo() override;
     void serialize_(gkArchive& archive, unsigned char version) override;
     void dispatchSerialize(gkArchive& archive) override;
-    std::vector<gkVector<2>> intersections(const gkLineSeg& seg, std::vector<int>& segIndices, bool includeEnds) const;
+    std::vector<gkVector<2>> intersections(const gkLineSeg& seg, std::vector<int>& segIndices,
+                                           bool includeEnds) const;
 
 private:
     friend class gkRegionSet;

@@ -38,8 +38,8 @@ void gkRegion::serialize_(gkArchive& archive, unsigned char version) {
     if (archive.isLoading()) cleanCacheInfo();
 }
 
-// Regions of old knew neither holes nor label, and kept no closed flag: the outline's own flag becomes false, while the
-// region says closed all the same.
+// Regions of old knew neither holes nor label, and kept no closed flag: the outline's own flag becomes false,
+// while the region says closed all the same.
 void gkRegion::passVersion0(gkArchive& archive) {
     gkContourBase().pass(archive);
     std::vector<gkVector<2>> vertices(points());

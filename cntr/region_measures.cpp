@@ -132,7 +132,8 @@ gkVector<2> gkRegion::closestPoint(const gkVector<2>& point, bool verticesOnly, 
     return best;
 }
 
-double gkRegion::distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles, bool zeroInside) const {
+double gkRegion::distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles,
+                             bool zeroInside) const {
     if (zeroInside && inside(point, considerHoles)) return 0.0;
     return point.distance(closestPoint(point, verticesOnly, considerHoles));
 }
@@ -150,7 +151,8 @@ std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, std::vect
     return gkContour::intersections(seg, segIndices, includeEnds);
 }
 
-std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, bool includeEnds, bool considerHoles) const {
+std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, bool includeEnds,
+                                                 bool considerHoles) const {
     std::vector<gkVector<2>> found = gkContour::intersections(seg, includeEnds);
     if (!considerHoles) return found;
     for (const auto& hole : holes_) {

@@ -6,9 +6,10 @@
 #include <utility>
 #include <vector>
 
-// Merges crossing items of a list in one pass: for each i and each j behind it, when crosses(list[i], list[j]), item i
-// becomes merged(list[i], list[j]) and the last item moves into place j. Then j goes on all the same, so the moved item is
-// not tested against the merged one: a chain may stay partly unmerged. Meant; the pass is not repeated.
+// Merges crossing items of a list in one pass: for each i and each j behind it, when crosses(list[i], list[j]),
+// item i becomes merged(list[i], list[j]) and the last item moves into place j. Then j goes on all the same, so
+// the moved item is not tested against the merged one: a chain may stay partly unmerged. Meant; the pass is not
+// repeated.
 template <class Item, class Crosses, class Merged>
 void gk_MergeInOnePass(std::vector<Item>& list, Crosses crosses, Merged merged) {
     for (std::size_t i = 0; i + 1 < list.size(); ++i) {

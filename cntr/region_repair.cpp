@@ -51,8 +51,8 @@ void gkRegion::splice(const gkRegion& other, gkRegion& result) const {
         std::vector<int> segments;
         const std::vector<gkVector<2>> found = other.intersections(edges[k], segments, true);
         if (found.empty()) continue;
-        result = gkRegion(gk_Spliced(found.front(), points(), k, other.points(),
-                                     static_cast<std::size_t>(segments.front())));
+        result = gkRegion(
+            gk_Spliced(found.front(), points(), k, other.points(), static_cast<std::size_t>(segments.front())));
         return;
     }
     throw gkContourDefs::BadParams(L"spliced regions do not intersect");

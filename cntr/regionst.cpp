@@ -10,20 +10,22 @@ std::vector<gkPtrHandle_const<gkRegion>> readOnly(const std::vector<gkPtrHandle<
 
 } // namespace
 
-gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle_const<gkRegion>>& regions, gkContourDefs::IntersectionMode mode)
+gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle_const<gkRegion>>& regions,
+                         gkContourDefs::IntersectionMode mode)
     : regions_(regions) {
-    gkRegionSet::makeDataConsistentWithPoints();
+    gkRegionSet::cleanCacheInfo(); // what this class's own makeDataConsistentWithPoints does
     repair(mode);
 }
 
-gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle<gkRegion>>& regions, gkContourDefs::IntersectionMode mode)
+gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle<gkRegion>>& regions,
+                         gkContourDefs::IntersectionMode mode)
     : gkRegionSet(readOnly(regions), mode) {}
 
 gkRegionSet::gkRegionSet(std::initializer_list<gkPtrHandle_const<gkRegion>> regions,
                          gkContourDefs::IntersectionMode mode)
     : gkRegionSet(Regions(regions), mode) {}
 
-gkRegionSet::gkRegionSet(const gkRegionSet& other) : gkPersistent(other), gkRepBase(other), regions_(), caches_() {
+gkRegionSet::gkRegionSet(const gkRegionSet& other) : gkPersistent(other), gkRepBase(other), caches_() {
     gkRegionSet::operator=(other);
 }
 
@@ -56,7 +58,8 @@ void gkRegionSet::regions(const std::vector<gkPtrHandle_const<gkRegion>>& region
     repair(mode);
 }
 
-void gkRegionSet::regions(const std::vector<gkPtrHandle<gkRegion>>& regions, gkContourDefs::IntersectionMode mode) {
+void gkRegionSet::regions(const std::vector<gkPtrHandle<gkRegion>>& regions,
+                          gkContourDefs::IntersectionMode mode) {
     gkRegionSet::regions(readOnly(regions), mode);
 }
 
@@ -66,9 +69,8 @@ void gkRegionSet::regions(std::initializer_list<gkPtrHandle_const<gkRegion>> reg
 }
 
 void gkRegionSet::add(const gkPtrHandle_const<gkRegion>& region, gkContourDefs::IntersectionMode mode) {
-    const gkPtrHandle_const<gkRegion> added(region); // it may be an element of this very list
     cleanCacheInfo();
-    regions_.push_back(added);
+    regions_.push_back(region);
     makeDataConsistentWithPoints();
     repair(mode);
 }

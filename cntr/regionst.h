@@ -18,16 +18,18 @@
 /// | cachedVectorSize | no | yes | yes |
 /// | kept results | no | yes, repaired sets shared | no |
 ///
-/// Results are kept until the list changes; a region changed through another handle is not seen until then. A set
-/// belongs to one thread at a time, even for reads.
+/// Results are kept until the list changes; a region changed through another handle is not seen until then. A
+/// set belongs to one thread at a time, even for reads.
 ///
-/// \b Throws: EmptyRegionSet (empty message) where an operation needs a region. What a member region throws passes
-/// through, and nothing is kept then. A null handle among the regions throws gkBadPointer when it is asked.
+/// \b Throws: EmptyRegionSet (empty message) where an operation needs a region. What a member region throws
+/// passes through, and nothing is kept then. A null handle among the regions throws gkBadPointer when it is
+/// asked.
 class GKCNTR_API gkRegionSet : public virtual gkPersistent, public virtual gkRepBase {
 public:
     /// The set of these regions, cachedVectorSize 3; `mode` may replace it by its own repaired form.
-    gkRegionSet(const std::vector<gkPtrHandle_const<gkRegion>>& regions = std::vector<gkPtrHandle_const<gkRegion>>(),
-                gkContourDefs::IntersectionMode mode = gkContourDefs::eKeepIntersections);
+    gkRegionSet(
+        const std::vector<gkPtrHandle_const<gkRegion>>& regions = std::vector<gkPtrHandle_const<gkRegion>>(),
+        gkContourDefs::IntersectionMode mode = gkContourDefs::eKeepIntersections);
     gkRegionSet(const std::vector<gkPtrHandle<gkRegion>>& regions, gkContourDefs::IntersectionMode mode);
     /// The same; lets gkRegionSet({}, mode) mean the empty set.
     gkRegionSet(std::initializer_list<gkPtrHandle_const<gkRegion>> regions,
@@ -44,48 +46,54 @@ public:
 
     /// A copy of the list.
     std::vector<gkPtrHandle_const<gkRegion>> regions() const { return regions_; }
-    /// Replaces the list, then repairs the whole set as `mode` says. When the repair throws, the list has been replaced.
+    /// Replaces the list, then repairs the whole set as `mode` says. When the repair throws, the list has been
+    /// replaced.
     void regions(const std::vector<gkPtrHandle_const<gkRegion>>& regions, gkContourDefs::IntersectionMode mode);
     void regions(const std::vector<gkPtrHandle<gkRegion>>& regions, gkContourDefs::IntersectionMode mode);
     /// The same; lets regions({}, mode) empty the set.
-    void regions(std::initializer_list<gkPtrHandle_const<gkRegion>> regions, gkContourDefs::IntersectionMode mode);
-    /// Appends a region, then repairs the whole set (not the new member alone) as `mode` says. When the repair throws, the
-    /// region has been appended.
+    void regions(std::initializer_list<gkPtrHandle_const<gkRegion>> regions,
+                 gkContourDefs::IntersectionMode mode);
+    /// Appends a region, then repairs the whole set (not the new member alone) as `mode` says. When the repair
+    /// throws, the region has been appended.
     void add(const gkPtrHandle_const<gkRegion>& region, gkContourDefs::IntersectionMode mode);
 
-    /// Bound of the map that keeps boxes by transform (default 3): it grows to one entry more, then replaces a random one.
+    /// Bound of the map that keeps boxes by transform (default 3): it grows to one entry more, then replaces a
+    /// random one.
     long cachedVectorSize() const { return cachedVectorSize_; }
-    /// Sets the bound; kept boxes stay. BadParams, and the old bound, when it is negative (empty message) or does not fit in
-    /// 32 bits.
+    /// Sets the bound; kept boxes stay. BadParams, and the old bound, when it is negative (empty message) or
+    /// does not fit in 32 bits.
     void cachedVectorSize(long size);
 
     /// Sum of the regions' areas, in order; 0 for the empty set. Kept for each value of `considerHoles`.
     double area(bool considerHoles) const;
     /// Area-weighted mean of the regions' centroids; (0, 0) when the areas sum to within 1e-15 of zero. Kept.
-    /// Throws EmptyRegionSet. (A region's own centerOfMass(true) with holes answers truly only once, see there.)
+    /// Throws EmptyRegionSet. (A region's own centerOfMass(true) with holes answers truly only once, see
+    /// there.)
     gkVector<2> centerOfMass(bool considerHoles) const;
-    /// Central second moments of the whole, by gk_InertiaData's sum in order. Kept. Throws EmptyRegionSet, and what a region
-    /// with holes throws with `considerHoles`.
+    /// Central second moments of the whole, by gk_InertiaData's sum in order. Kept. Throws EmptyRegionSet, and
+    /// what a region with holes throws with `considerHoles`.
     gkMatrix<2> inertiaMatrix(bool considerHoles) const;
     /// Whether some region contains the point; false for the empty set.
     bool inside(const gkVector<2>& point, bool considerHoles) const;
     /// Least of the regions' distances; NaN distances are passed over. Throws EmptyRegionSet.
     double distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles, bool zeroInside) const;
-    /// Box of all outlines under the transform, kept as gkContour::encloseRect keeps its own. Throws EmptyRegionSet.
+    /// Box of all outlines under the transform, kept as gkContour::encloseRect keeps its own. Throws
+    /// EmptyRegionSet.
     gkRect encloseRect(const gkXform<2>& xform) const;
 
-    /// True when a region's outline crosses itself or two regions' outlines cross or touch; holes are not looked at. Kept.
+    /// True when a region's outline crosses itself or two regions' outlines cross or touch; holes are not
+    /// looked at. Kept.
     ///
-    /// The flag is set before the computation: after an exception, later calls return the value reached by then. Meant.
-    /// Cost: quadratic in the number of regions and in their vertices.
+    /// The flag is set before the computation: after an exception, later calls return the value reached by
+    /// then. Meant. Cost: quadratic in the number of regions and in their vertices.
     bool isSelfIntersecting() const;
 
-    /// Sets `result` to the set in which crossing regions are merged and each region is regularized; to this set when it is
-    /// not self-intersecting. `result` may be *this. Kept.
+    /// Sets `result` to the set in which crossing regions are merged and each region is regularized; to this
+    /// set when it is not self-intersecting. `result` may be *this. Kept.
     ///
-    /// Merging is one pass: regions i, then j behind i; on a crossing, i becomes the two spliced together and the last
-    /// region moves into the place of j, not to be tested against i again. So a chain may stay partly unmerged; this is
-    /// meant. Throws what the regions' splice and repair throw. docs/repair.md shows it.
+    /// Merging is one pass: regions i, then j behind i; on a crossing, i becomes the two spliced together and
+    /// the last region moves into the place of j, not to be tested against i again. So a chain may stay partly
+    /// unmerged; this is meant. Throws what the regions' splice and repair throw. docs/repair.md shows it.
     void regularize(gkRegionSet& result) const;
     /// The same with each region's outer hull.
     void outerHull(gkRegionSet& result) const;
@@ -98,8 +106,8 @@ public:
 protected:
     /// Writes or reads the record (docs/format.md).
     virtual void serialize_(gkArchive& archive, unsigned char version);
-    /// Called after the list changed; a class with a list of its own rebuilds it here. The set's own forgets the kept
-    /// results.
+    /// Called after the list changed; a class with a list of its own rebuilds it here. The set's own forgets
+    /// the kept results.
     virtual void makeDataConsistentWithPoints();
     /// Called after such a list changed. The set's own forgets the kept results.
     virtual void makePointsConsistentWithData();

@@ -24,7 +24,8 @@ void gkRegionSet::regularize(gkRegionSet& result) const { repairOnce(caches_.reg
 
 void gkRegionSet::outerHull(gkRegionSet& result) const { repairOnce(caches_.outerHull, true, result); }
 
-void gkRegionSet::repairOnce(gk_Kept<gkPtrHandle<gkRegionSet>>& kept, bool outerHull, gkRegionSet& result) const {
+void gkRegionSet::repairOnce(gk_Kept<gkPtrHandle<gkRegionSet>>& kept, bool outerHull,
+                             gkRegionSet& result) const {
     if (!isSelfIntersecting()) {
         result = *this;
         return;

@@ -1,4 +1,5 @@
-// What the intersection queries need of every segment of an outline, built once and kept until the outline changes.
+// What the intersection queries need of every segment of an outline, built once and kept until the outline
+// changes.
 #ifndef GK_CNTR_SEGMENT_CACHE_H
 #define GK_CNTR_SEGMENT_CACHE_H
 
@@ -7,8 +8,8 @@
 
 #include <vector>
 
-// One entry per segment in every vector. A segment whose ends are equal within 1e-15 is not a valid line: it keeps its
-// index, but its entries are default-made placeholders, not the segment's own place.
+// One entry per segment in every vector. A segment whose ends are equal within 1e-15 is not a valid line: it
+// keeps its index, but its entries are default-made placeholders, not the segment's own place.
 struct gk_SegmentCache {
     bool computed = false;
     std::vector<gkLineSeg> segments;

@@ -7,11 +7,10 @@
 #include <cstddef>
 #include <vector>
 
-// Calls visit(previous, current) for every segment. A closed outline of n vertices has n segments, the closing one
-// first: segment k ends at vertex k. An open one has n - 1: segment k starts at vertex k. The asymmetry is meant, callers
-// see it in segment indices.
-template <class Visit>
-void gk_WalkSegments(const std::vector<gkVector<2>>& points, bool closed, Visit visit) {
+// Calls visit(previous, current) for every segment. A closed outline of n vertices has n segments, the closing
+// one first: segment k ends at vertex k. An open one has n - 1: segment k starts at vertex k. The asymmetry is
+// meant, callers see it in segment indices.
+template <class Visit> void gk_WalkSegments(const std::vector<gkVector<2>>& points, bool closed, Visit visit) {
     if (points.empty()) return;
     std::size_t previous = closed ? points.size() - 1 : 0;
     for (std::size_t current = closed ? 0 : 1; current < points.size(); ++current) {

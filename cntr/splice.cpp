@@ -2,8 +2,10 @@
 
 namespace {
 
-void appendFrom(std::vector<gkVector<2>>& spliced, const std::vector<gkVector<2>>& vertices, std::size_t first) {
-    for (std::size_t i = 0; i < vertices.size(); ++i) spliced.push_back(vertices[(first + i) % vertices.size()]);
+void appendFrom(std::vector<gkVector<2>>& spliced, const std::vector<gkVector<2>>& vertices,
+                std::size_t first) {
+    for (std::size_t i = 0; i < vertices.size(); ++i)
+        spliced.push_back(vertices[(first + i) % vertices.size()]);
 }
 
 } // namespace

@@ -42,7 +42,8 @@ const gk_VertexGrids::Grid& gk_VertexGrids::grid(const std::vector<gkVector<2>>&
     return grids_.back();
 }
 
-std::vector<int> gk_VertexGrids::near(const std::vector<gkVector<2>>& points, const gkVector<2>& p, double tolerance) {
+std::vector<int> gk_VertexGrids::near(const std::vector<gkVector<2>>& points, const gkVector<2>& p,
+                                      double tolerance) {
     const Grid& cells = grid(points, tolerance);
     const std::int64_t column = gk_GridCell(p.x(), tolerance);
     const std::int64_t row = gk_GridCell(p.y(), tolerance);

@@ -32,11 +32,11 @@ for header in "${public[@]}"; do
     done < <(sed -n 's/^ *# *include *<\([^>]*[./][^>]*\)>.*/\1/p' "$header")
 done
 
-# The umbrella header brings every other one.
+# The umbrella header brings every other one; the Cairo surface is a library of its own, which a user may not have.
 if [ -f gkcntr.h ]; then
     brought=$(g++ -std=c++17 -I. -MM gkcntr.h | tr -s ' \\' '\n' | sort -u)
     for header in "${public[@]}"; do
-        grep -qxF "$header" <<<"$brought" || complain "gkcntr.h: does not bring $header"
+        [[ $header = platform/display/cairo/* ]] || grep -qxF "$header" <<<"$brought" || complain "gkcntr.h: does not bring $header"
     done
 fi
 

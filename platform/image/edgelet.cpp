@@ -1,5 +1,7 @@
 #include "platform/image/edgelet.h"
 
+#include "platform/core/archive/archive_values.h"
+
 gkEdgelet::gkEdgelet(const gkVector<2>& position, unsigned short magnitude, const gkAngle8& angle)
     : position_(position), magnitude_(magnitude), angle_(angle) {}
 
@@ -14,3 +16,14 @@ bool gkEdgelet::operator==(const gkEdgelet& other) const {
 }
 
 bool gkEdgelet::operator!=(const gkEdgelet& other) const { return !(*this == other); }
+
+gkArchive& operator||(gkArchive& ar, gkEdgelet& value) {
+    gkVector<2> position = value.position();
+    unsigned short magnitude = value.magnitude();
+    gkAngle8 angle = value.angle();
+    ar || position;
+    ar || magnitude;
+    ar || angle;
+    value = gkEdgelet(position, magnitude, angle);
+    return ar;
+}

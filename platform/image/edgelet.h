@@ -3,6 +3,7 @@
 #ifndef GK_PLATFORM_IMAGE_EDGELET_H
 #define GK_PLATFORM_IMAGE_EDGELET_H
 
+#include "platform/core/archive/archive.h"
 #include "platform/core/math/angle.h"
 #include "platform/core/math/vector.h"
 #include "platform/export.h"
@@ -31,5 +32,10 @@ private:
     unsigned short magnitude_ = 0;
     gkAngle8 angle_;
 };
+
+/// Position, magnitude as two bytes, angle as one.
+GKCNTR_API gkArchive& operator||(gkArchive& ar, gkEdgelet& value);
+
+template <> struct gk_ArchiveSize<gkEdgelet> { static constexpr std::size_t least = 19; };
 
 #endif

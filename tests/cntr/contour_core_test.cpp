@@ -220,7 +220,7 @@ TEST(ContourKeys, AnglesCompareByRawValue) {
 TEST(ContourKeys, TransformsCompareByFiveComponentsInOrder) {
     const gkContour::gsSTLLessPredicate less;
     const double base[] = {1, 2, 3, 4, 5};
-    const auto xform = [](const double (&c)[5], double last) {
+    const auto xform = [](const double(&c)[5], double last) {
         return gkXform<2>(gkMatrix<2>(c[2], c[3], c[4], last), {c[0], c[1]});
     };
     for (int component = 0; component < 5; ++component) {

@@ -34,7 +34,8 @@ template <class Error> std::unique_ptr<gkPersistent> writtenAndRead(const Error&
 }
 
 template <class Error> class ContourErrors : public testing::Test {};
-using Concrete = testing::Types<Defs::EmptyContour, Defs::EmptyRegionSet, Defs::BadParams, Defs::RegionCannotBeSetOpen>;
+using Concrete =
+    testing::Types<Defs::EmptyContour, Defs::EmptyRegionSet, Defs::BadParams, Defs::RegionCannotBeSetOpen>;
 TYPED_TEST_SUITE(ContourErrors, Concrete);
 
 } // namespace
@@ -47,8 +48,8 @@ TEST(ContourDefs, ErrorsCarryTheirFixedNumbers) {
 }
 
 TEST(ContourDefs, NoErrorCarriesTheNumberBetweenTheFirstTwo) {
-    const std::set<long> numbers = {Defs::EmptyContour(L"").errorNumber(), Defs::EmptyRegionSet(L"").errorNumber(),
-                                    Defs::BadParams(L"").errorNumber(),
+    const std::set<long> numbers = {Defs::EmptyContour(L"").errorNumber(),
+                                    Defs::EmptyRegionSet(L"").errorNumber(), Defs::BadParams(L"").errorNumber(),
                                     Defs::RegionCannotBeSetOpen(L"").errorNumber()};
     EXPECT_EQ(4u, numbers.size());
     EXPECT_EQ(0u, numbers.count(0x10004681));
@@ -97,8 +98,8 @@ TYPED_TEST(ContourErrors, RecordIsOneVersionByteForEveryLevel) {
     gkArchiveMemory out;
     TypeParam error(L"not written");
     out || static_cast<gkPersistent&>(error);
-    const std::vector<unsigned char> record(out.bytes().begin() + static_cast<std::ptrdiff_t>(empty.bytes().size()),
-                                            out.bytes().end());
+    const std::vector<unsigned char> record(
+        out.bytes().begin() + static_cast<std::ptrdiff_t>(empty.bytes().size()), out.bytes().end());
     // concrete class, Errors, gkException, gkPersistent
     EXPECT_EQ((std::vector<unsigned char>{0, 0, 0, 0}), record);
 }

@@ -27,7 +27,8 @@ const gkContourDefs::DrawMode kModes[] = {gkContourDefs::eDrawOutline, gkContour
 
 TEST(ContourDraw, OfAnOpenContourIsTwoSegmentsForThreeVertices) {
     for (const auto mode : kModes) {
-        EXPECT_EQ((std::vector<gkLineSeg>{{{0, 0}, {4, 0}}, {{4, 0}, {0, 3}}}), drawn(open("0 0, 4 0, 0 3"), mode));
+        EXPECT_EQ((std::vector<gkLineSeg>{{{0, 0}, {4, 0}}, {{4, 0}, {0, 3}}}),
+                  drawn(open("0 0, 4 0, 0 3"), mode));
     }
 }
 
@@ -38,7 +39,9 @@ TEST(ContourDraw, OfAClosedContourBeginsWithTheClosingSegment) {
     }
 }
 
-TEST(ContourDraw, OfAnEmptyContourIsNothing) { EXPECT_TRUE(drawn(closed(""), gkContourDefs::eDrawOutline).empty()); }
+TEST(ContourDraw, OfAnEmptyContourIsNothing) {
+    EXPECT_TRUE(drawn(closed(""), gkContourDefs::eDrawOutline).empty());
+}
 
 TEST(ContourDraw, OfOneVertexIsOneDegenerateSegmentWhenClosed) {
     EXPECT_EQ((std::vector<gkLineSeg>{{{5, 5}, {5, 5}}}), drawn(closed("5 5"), gkContourDefs::eDrawOutline));

@@ -58,7 +58,9 @@ TEST(ContourCrossings, ASideWithinTheTouchOfAnEndIsLeftOutTheBoundIncluded) {
 TEST(ContourCrossings, APointMustBeStrictlyNearerThanTheTouchToTheContoursSegment) {
     // The lines cross exactly at (gap, 0), which is gap beyond the segment's start at the origin.
     const OpenedContour line = open("0 0, -4 0");
-    const auto crosses = [&](double gap) { return !line.intersections(gkLineSeg({gap, 0}, {-1, -1}), true).empty(); };
+    const auto crosses = [&](double gap) {
+        return !line.intersections(gkLineSeg({gap, 0}, {-1, -1}), true).empty();
+    };
     EXPECT_TRUE(crosses(below(1e-6)));
     EXPECT_FALSE(crosses(1e-6));
 }
@@ -91,7 +93,9 @@ TEST(ContourCrossings, BoxesThatOnlyTouchOverlap) {
     EXPECT_TRUE(closed(kUnitSquare).intersections(seg(above(1), above(1), 2, 3), true).empty());
 }
 
-TEST(ContourCrossings, OfAPointAreNone) { EXPECT_TRUE(closed(kUnitSquare).intersections(seg(0, 0.5, 0, 0.5), true).empty()); }
+TEST(ContourCrossings, OfAPointAreNone) {
+    EXPECT_TRUE(closed(kUnitSquare).intersections(seg(0, 0.5, 0, 0.5), true).empty());
+}
 
 TEST(ContourCrossings, SkipDegenerateSegmentsButKeepTheirIndex) {
     const OpenedContour contour = open("0 0, 4 0, 4 0, 8 0, 8 8");
@@ -101,8 +105,8 @@ TEST(ContourCrossings, SkipDegenerateSegmentsButKeepTheirIndex) {
 }
 
 TEST(ContourCrossings, WithEqualKeysKeepTheExchangeOrder) {
-    // Three segments through (2, 0) and one through (1, 0), in index order 2, 2, 2, 1. The first place is exchanged with
-    // the last, which moves the first of the equal ones behind the other two.
+    // Three segments through (2, 0) and one through (1, 0), in index order 2, 2, 2, 1. The first place is
+    // exchanged with the last, which moves the first of the equal ones behind the other two.
     const gkLineSeg query = seg(0, 0, 4, 0);
     std::vector<gk_Crossing> crossings = {{{2, 0}, 0}, {{2, 0}, 1}, {{2, 0}, 2}, {{1, 0}, 3}};
     gk_OrderAlong(query, crossings);
@@ -114,7 +118,8 @@ TEST(ContourCrossings, WithEqualKeysKeepTheExchangeOrder) {
 
 TEST(ContourCrossings, UseTheKeptBoxOfATransformThatSharesTheIdentitysKey) {
     const OpenedContour square = closed(kUnitSquare);
-    // Asked first, the stretched box [0,1] x [10,10 + ...] stands in for the contour's own, and the query misses it.
+    // Asked first, the stretched box [0,1] x [10,10 + ...] stands in for the contour's own, and the query
+    // misses it.
     square.encloseRect(gkXform<2>(gkMatrix<2>(1, 0, 0, -5), {0, 0}));
     EXPECT_EQ(gkRect::fromCorners({0, -5}, {1, 0}), square.encloseRect(gkXform<2>()));
     EXPECT_TRUE(square.intersections(seg(-1, 0.5, 2, 0.5), true).empty());
@@ -140,7 +145,9 @@ TEST(ContourCrossings, OfAnotherContourWithFewVerticesAreNone) {
     EXPECT_TRUE(square.intersections(open("0 0.5")).empty());
 }
 
-TEST(ContourCrossings, OfItself) { EXPECT_EQ(8u, closed(kUnitSquare).intersections(closed(kUnitSquare)).size()); }
+TEST(ContourCrossings, OfItself) {
+    EXPECT_EQ(8u, closed(kUnitSquare).intersections(closed(kUnitSquare)).size());
+}
 
 TEST(ContourCrossings, OfTooFewVerticesThrow) {
     std::vector<int> indices;
@@ -162,7 +169,9 @@ TEST(ContourCrossings, WithVerticesThatAreNotNumbersEnd) {
 
 TEST(SelfIntersection, OfAFigureEight) { EXPECT_TRUE(closed("0 0, 2 2, 2 0, 0 2").isSelfIntersecting()); }
 
-TEST(SelfIntersection, OfASimplePolygon) { EXPECT_FALSE(closed("0 0, 4 0, 4 1, 1 1, 1 3, 0 3").isSelfIntersecting()); }
+TEST(SelfIntersection, OfASimplePolygon) {
+    EXPECT_FALSE(closed("0 0, 4 0, 4 1, 1 1, 1 3, 0 3").isSelfIntersecting());
+}
 
 TEST(SelfIntersection, OfAClosedPair) { EXPECT_FALSE(closed("0 0, 4 0").isSelfIntersecting()); }
 

@@ -34,14 +34,14 @@ void load(const Bytes& bytes, gkContour& contour) {
 }
 
 // A triangle with label 0x01020304, open, cachedVectorSize 5.
-const char* const kVersion1 = "01"          // record version
-                              "00"          // base record
-                              "04030201"    // label
-                              "00"          // closed flag
-                              "00 02000000" // vertices: form, count
-                              "000000000000f03f 00000000000000c0"  // 1, -2
-                              "0000000000000840 9a9999999999b93f"  // 3, 0.1
-                              "05000000";                          // cachedVectorSize
+const char* const kVersion1 = "01"                                // record version
+                              "00"                                // base record
+                              "04030201"                          // label
+                              "00"                                // closed flag
+                              "00 02000000"                       // vertices: form, count
+                              "000000000000f03f 00000000000000c0" // 1, -2
+                              "0000000000000840 9a9999999999b93f" // 3, 0.1
+                              "05000000";                         // cachedVectorSize
 
 const char* const kVersion0 = "00"          // record version
                               "00 00"       // the base of old: its version, its base record
@@ -68,7 +68,9 @@ std::string atOffset(std::string hex, std::size_t byte, const std::string& value
 
 } // namespace
 
-TEST(ContourArchive, RecordIsWrittenByteForByte) { EXPECT_EQ(toHex(withHeader(kVersion1)), toHex(written(archived()))); }
+TEST(ContourArchive, RecordIsWrittenByteForByte) {
+    EXPECT_EQ(toHex(withHeader(kVersion1)), toHex(written(archived())));
+}
 
 TEST(ContourArchive, WrittenAndReadEqualsAndKeepsItsLabel) {
     gkContour contour;
@@ -168,8 +170,10 @@ TEST(ContourArchive, UnknownVersionsAreNamedErrors) {
     gkContour contour;
     EXPECT_THROW(load(withHeader(atOffset(kVersion1, 0, "02")), contour), gkArchive::UnknownVersion);
     EXPECT_THROW(load(withHeader(atOffset(kVersion1, 0, "ff")), contour), gkArchive::UnknownVersion);
-    EXPECT_THROW(load(withHeader(atOffset(kVersion1, 1, "01")), contour), gkArchive::UnknownVersion); // base record
-    EXPECT_THROW(load(withHeader(atOffset(kVersion0, 1, "01")), contour), gkArchive::UnknownVersion); // base of old
+    EXPECT_THROW(load(withHeader(atOffset(kVersion1, 1, "01")), contour),
+                 gkArchive::UnknownVersion); // base record
+    EXPECT_THROW(load(withHeader(atOffset(kVersion0, 1, "01")), contour),
+                 gkArchive::UnknownVersion); // base of old
     EXPECT_THROW(load(withHeader(atOffset(kVersion0, 2, "01")), contour), gkArchive::UnknownVersion);
 }
 

@@ -17,8 +17,8 @@ const double kInf = std::numeric_limits<double>::infinity();
 
 gkXform<2> translation(double x, double y) { return gkXform<2>(gkMatrix<2>::identity(), {x, y}); }
 
-// A contour whose kept boxes and angles can be told from computed ones: its vertices are swapped behind the caches by
-// a transform the map holds but that no vertex set gives.
+// A contour whose kept boxes and angles can be told from computed ones: its vertices are swapped behind the
+// caches by a transform the map holds but that no vertex set gives.
 std::size_t keptAmong(const gkContour& contour, const std::vector<gkXform<2>>& asked) {
     std::size_t kept = 0;
     for (const gkXform<2>& xform : asked) {
@@ -235,7 +235,8 @@ TEST(ContourBox, EvictionDoesNotChangeAnyAnswer) {
         const gkXform<2> xform = translation((round * 7) % 11, 0);
         gkContour fresh = closed("1 1, 3 2, -4 7");
         ASSERT_EQ(fresh.encloseRect(xform), contour.encloseRect(xform)) << round;
-        ASSERT_EQ(fresh.extremalVertexIndex(gkRadian(round % 13)), contour.extremalVertexIndex(gkRadian(round % 13)));
+        ASSERT_EQ(fresh.extremalVertexIndex(gkRadian(round % 13)),
+                  contour.extremalVertexIndex(gkRadian(round % 13)));
     }
 }
 
@@ -248,7 +249,8 @@ TEST(ContourBox, TransformWithNanIsAnsweredButNotKept) {
 }
 
 TEST(ContourBox, PassesOverNanExceptInTheFirstVertex) {
-    EXPECT_EQ(gkRect({1, 1}, {2, 1}), gkContour({{1, 1}, {kNan, kNan}, {3, 2}}, true, 0).encloseRect(gkXform<2>()));
+    EXPECT_EQ(gkRect({1, 1}, {2, 1}),
+              gkContour({{1, 1}, {kNan, kNan}, {3, 2}}, true, 0).encloseRect(gkXform<2>()));
     EXPECT_TRUE(std::isnan(gkContour({{kNan, 1}, {3, 2}}, true, 0).encloseRect(gkXform<2>()).ul().x()));
 }
 
@@ -299,7 +301,8 @@ TEST(ContourHull, OfOneVertexThrowsAndLeavesTheOutput) {
 
 TEST(ContourEllipse, IsKeptAndFailuresAreNot) {
     Points circle;
-    for (int i = 0; i < 12; ++i) circle.emplace_back(3 + 2 * std::cos(i * M_PI / 6), 4 + 2 * std::sin(i * M_PI / 6));
+    for (int i = 0; i < 12; ++i)
+        circle.emplace_back(3 + 2 * std::cos(i * M_PI / 6), 4 + 2 * std::sin(i * M_PI / 6));
     gkContour contour(circle, true, 0);
     gkEllipse ellipse;
     double error = -1.0;

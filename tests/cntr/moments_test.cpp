@@ -19,11 +19,13 @@ Points reversed(Points list) {
 
 std::vector<gkEdgelet> edgelets(const Points& list) {
     std::vector<gkEdgelet> result;
-    for (const gkVector<2>& point : list) result.emplace_back(point, static_cast<unsigned short>(7), gkAngle8(3));
+    for (const gkVector<2>& point : list)
+        result.emplace_back(point, static_cast<unsigned short>(7), gkAngle8(3));
     return result;
 }
 
-void expectInertia(const gk_InertiaData& data, double area, gkVector<2> center, gkMatrix<2> moments, double tolerance) {
+void expectInertia(const gk_InertiaData& data, double area, gkVector<2> center, gkMatrix<2> moments,
+                   double tolerance) {
     EXPECT_NEAR(area, data.area(), tolerance);
     EXPECT_NEAR(center.x(), data.centerOfMass().x(), tolerance);
     EXPECT_NEAR(center.y(), data.centerOfMass().y(), tolerance);
@@ -63,7 +65,9 @@ TEST(PolygonArea, OfNoPointsFailsInACheckedAccess) {
 
 TEST(PolygonArea, OfEdgeletsIsThatOfTheirPositions) { EXPECT_EQ(6.0, gf_Area(edgelets(points(kEll)))); }
 
-TEST(PolygonArea, RepeatedClosingVertexAddsNothing) { EXPECT_EQ(1.0, gf_Area(points("0 0, 1 0, 1 1, 0 1, 0 0"))); }
+TEST(PolygonArea, RepeatedClosingVertexAddsNothing) {
+    EXPECT_EQ(1.0, gf_Area(points("0 0, 1 0, 1 1, 0 1, 0 0")));
+}
 
 TEST(PolygonArea, OppositeLobesCancel) { EXPECT_EQ(0.0, gf_Area(points("0 0, 2 2, 2 0, 0 2"))); }
 
@@ -104,7 +108,8 @@ TEST(Centroid, TotalWithinTheSecondBoundGivesTheOrigin) {
 }
 
 TEST(Centroid, AnEdgeOnALineThroughTheOriginDoesNotSpoilIt) {
-    // The edge (1e7, 1e7+1) to (2e7, 2e7+2) lies on a line through the origin only up to rounding of the medians.
+    // The edge (1e7, 1e7+1) to (2e7, 2e7+2) lies on a line through the origin only up to rounding of the
+    // medians.
     const Points list = {{3, 1e16}, {6, 2e16}, {1e16, 0}};
     const gkVector<2> centroid = gf_CenterOfMass(list);
     EXPECT_TRUE(std::isfinite(centroid.x()) && std::isfinite(centroid.y()));
@@ -185,8 +190,8 @@ TEST(Inertia, EndsForVerticesThatAreNotNumbers) {
 }
 
 TEST(Inertia, EndsForEveryTriangleAtLargeCoordinates) {
-    // At 1e7 the slack of the base search is far below rounding; every fan triangle must still find its base or count
-    // for nothing, and the area must come out.
+    // At 1e7 the slack of the base search is far below rounding; every fan triangle must still find its base or
+    // count for nothing, and the area must come out.
     for (int step = 0; step < 360; ++step) {
         const double angle = step * 0.0174532925199433;
         const gkVector<2> corner(1e7 + 1e6 * std::cos(angle), 1e7 + 1e6 * std::sin(angle));
@@ -243,7 +248,8 @@ TEST(InertiaSum, CentreBoundIsAboveNotAt) {
 
 TEST(EllipseOfMoments, OfACircle) {
     const double moment = M_PI * 16 / 4;
-    const gkEllipse ellipse = gf_EllipseFromInertiaData(gk_InertiaData(M_PI * 4, {3, 4}, gkMatrix<2>(moment, 0, 0, moment)));
+    const gkEllipse ellipse =
+        gf_EllipseFromInertiaData(gk_InertiaData(M_PI * 4, {3, 4}, gkMatrix<2>(moment, 0, 0, moment)));
     EXPECT_NEAR(2.0, ellipse.radii().x(), kRounding);
     EXPECT_NEAR(2.0, ellipse.radii().y(), kRounding);
     EXPECT_EQ(0.0, ellipse.rotation().toDouble());
@@ -254,11 +260,13 @@ TEST(EllipseOfMoments, OfACircle) {
 TEST(EllipseOfMoments, FirstRadiusFollowsTheRotation) {
     const double alongY = M_PI * 27 * 1 / 4; // semi-axes 3 along y, 1 along x
     const double alongX = M_PI * 3 * 1 / 4;
-    const gkEllipse upright = gf_EllipseFromInertiaData(gk_InertiaData(M_PI * 3, {0, 0}, gkMatrix<2>(alongX, 0, 0, alongY)));
+    const gkEllipse upright =
+        gf_EllipseFromInertiaData(gk_InertiaData(M_PI * 3, {0, 0}, gkMatrix<2>(alongX, 0, 0, alongY)));
     EXPECT_EQ(M_PI / 2, upright.rotation().toDouble());
     EXPECT_NEAR(3.0, upright.radii().x(), kRounding);
     EXPECT_NEAR(1.0, upright.radii().y(), kRounding);
-    const gkEllipse lying = gf_EllipseFromInertiaData(gk_InertiaData(M_PI * 3, {0, 0}, gkMatrix<2>(alongY, 0, 0, alongX)));
+    const gkEllipse lying =
+        gf_EllipseFromInertiaData(gk_InertiaData(M_PI * 3, {0, 0}, gkMatrix<2>(alongY, 0, 0, alongX)));
     EXPECT_EQ(0.0, lying.rotation().toDouble());
     EXPECT_NEAR(3.0, lying.radii().x(), kRounding);
     EXPECT_NEAR(1.0, lying.radii().y(), kRounding);
@@ -289,12 +297,14 @@ TEST(EllipseOfMoments, PrincipalMomentAtTheBoundIsSingularAndJustAboveIsNot) {
 }
 
 TEST(EllipseOfMoments, OfCollinearVerticesIsSingular) {
-    EXPECT_THROW(gf_EllipseFromInertiaData(gf_InertiaDataPolygon(points("0 0, 1 1, 2 2, 4 4"))), gkMathError::Singular);
+    EXPECT_THROW(gf_EllipseFromInertiaData(gf_InertiaDataPolygon(points("0 0, 1 1, 2 2, 4 4"))),
+                 gkMathError::Singular);
 }
 
 TEST(FitEllipse, PassesThroughPointsOfACircle) {
     Points circle;
-    for (int i = 0; i < 12; ++i) circle.emplace_back(3 + 2 * std::cos(i * M_PI / 6), 4 + 2 * std::sin(i * M_PI / 6));
+    for (int i = 0; i < 12; ++i)
+        circle.emplace_back(3 + 2 * std::cos(i * M_PI / 6), 4 + 2 * std::sin(i * M_PI / 6));
     gkEllipse ellipse;
     double error = -1.0;
     gf_FitEllipse(circle, ellipse, error);

@@ -31,9 +31,9 @@ bool isNumber(const Json& value) {
 
 bool same(const Json& a, const Json& b, double tolerance) {
     if (a.is_array() && b.is_array()) {
-        return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [&](const Json& x, const Json& y) {
-            return same(x, y, tolerance);
-        });
+        return a.size() == b.size() &&
+               std::equal(a.begin(), a.end(), b.begin(),
+                          [&](const Json& x, const Json& y) { return same(x, y, tolerance); });
     }
     if (isNumber(a) && isNumber(b)) return sameNumber(a, b, tolerance);
     return a == b;
@@ -81,9 +81,9 @@ gkLineSeg segment(const Json& value) {
 }
 
 gk_InertiaData inertia(const Json& value) {
-    return gk_InertiaData(number(value.at(0)), gkVector<2>(number(value.at(1)), number(value.at(2))),
-                          gkMatrix<2>(number(value.at(3)), number(value.at(4)), number(value.at(5)),
-                                      number(value.at(6))));
+    return gk_InertiaData(
+        number(value.at(0)), gkVector<2>(number(value.at(1)), number(value.at(2))),
+        gkMatrix<2>(number(value.at(3)), number(value.at(4)), number(value.at(5)), number(value.at(6))));
 }
 
 Json nothing() { return wrapped("void", true); }
@@ -103,7 +103,8 @@ Json of(const std::vector<int>& value) { return wrapped("ints", Json(value)); }
 Json of(const std::vector<bool>& value) { return wrapped("bools", Json(value)); }
 
 Json of(const gkRect& value) {
-    return wrapped("rect", {raw(value.ul().x()), raw(value.ul().y()), raw(value.lr().x()), raw(value.lr().y())});
+    return wrapped("rect",
+                   {raw(value.ul().x()), raw(value.ul().y()), raw(value.lr().x()), raw(value.lr().y())});
 }
 
 Json of(const gkCircle& value) {
@@ -117,9 +118,9 @@ Json of(const gkMatrix<2>& value) {
 
 Json of(const gk_InertiaData& value) {
     const gkMatrix<2>& m = value.inertiaMatrix();
-    return wrapped("inertia", {raw(value.area()), raw(value.centerOfMass().x()), raw(value.centerOfMass().y()),
-                               raw(m.element(0, 0)), raw(m.element(0, 1)), raw(m.element(1, 0)),
-                               raw(m.element(1, 1))});
+    return wrapped("inertia",
+                   {raw(value.area()), raw(value.centerOfMass().x()), raw(value.centerOfMass().y()),
+                    raw(m.element(0, 0)), raw(m.element(0, 1)), raw(m.element(1, 0)), raw(m.element(1, 1))});
 }
 
 Json of(const gkEllipse& value) {

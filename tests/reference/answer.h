@@ -1,4 +1,5 @@
-// An operation's answer in the form of the cases: {"num": 3.0}, {"pts": [[0, 0], ...]}, {"throws": [class, message]}.
+// An operation's answer in the form of the cases: {"num": 3.0}, {"pts": [[0, 0], ...]}, {"throws": [class,
+// message]}.
 #ifndef GK_TESTS_REFERENCE_ANSWER_H
 #define GK_TESTS_REFERENCE_ANSWER_H
 
@@ -43,8 +44,8 @@ Json of(const gk_InertiaData& value);
 Json of(const gkEllipse& value);
 Json of(const std::vector<gkLineSeg>& value);
 
-// Empty when the answers agree within `tolerance` per number (0: exactly), else what differs. `asSet`: order and start
-// of a list of points are free.
+// Empty when the answers agree within `tolerance` per number (0: exactly), else what differs. `asSet`: order
+// and start of a list of points are free.
 std::string difference(const Json& wanted, const Json& given, double tolerance, bool asSet);
 
 } // namespace answer

@@ -48,8 +48,8 @@ TEST_P(Answers, Agree) {
                         asked.at("op").get<std::string>().c_str(), result.difference.c_str());
         } else {
             ++hard;
-            EXPECT_EQ(StepResult::eAgrees, result.outcome)
-                << "step " << step << " " << asked.dump() << "\n" << result.difference;
+            EXPECT_EQ(StepResult::eAgrees, result.outcome) << "step " << step << " " << asked.dump() << "\n"
+                                                           << result.difference;
         }
         ++step;
     }

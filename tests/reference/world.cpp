@@ -28,8 +28,8 @@ gkVector<2> probe(const Json& step) { return answer::vector(step.at("p")); }
 
 Json World::ask(const Json& step) {
     // Each group answers the operations it knows and null for others.
-    for (const auto group : {&World::make, &World::askContour, &World::askContourProtected, &World::askFreeFunction,
-                             &World::askRegion, &World::askSet}) {
+    for (const auto group : {&World::make, &World::askContour, &World::askContourProtected,
+                             &World::askFreeFunction, &World::askRegion, &World::askSet}) {
         Json answered = (this->*group)(step);
         if (!answered.is_null()) return answered;
     }
@@ -103,7 +103,8 @@ Json World::make(const Json& step) {
     }
     if (op == "copy") {
         const std::string from = step.at("from");
-        if (sets_.count(from)) return named([&] { sets_[name] = gkPtrHandle<gkRegionSet>(new gkRegionSet(*sets_[from])); });
+        if (sets_.count(from))
+            return named([&] { sets_[name] = gkPtrHandle<gkRegionSet>(new gkRegionSet(*sets_[from])); });
         if (const auto* source = dynamic_cast<const gkRegion*>(&contour(step, "from"))) {
             return named([&] { shape(new gkRegion(*source)); });
         }

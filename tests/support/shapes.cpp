@@ -21,9 +21,13 @@ OpenedContour open(const std::string& text) { return OpenedContour(points(text),
 
 OpenedContour closed(const std::string& text) { return OpenedContour(points(text), true, 0); }
 
-std::ostream& operator<<(std::ostream& out, const gkVector<2>& v) { return out << "(" << v.x() << ", " << v.y() << ")"; }
+std::ostream& operator<<(std::ostream& out, const gkVector<2>& v) {
+    return out << "(" << v.x() << ", " << v.y() << ")";
+}
 
-std::ostream& operator<<(std::ostream& out, const gkRect& rect) { return out << rect.ul() << " to " << rect.lr(); }
+std::ostream& operator<<(std::ostream& out, const gkRect& rect) {
+    return out << rect.ul() << " to " << rect.lr();
+}
 
 double above(double value) { return std::nextafter(value, std::numeric_limits<double>::infinity()); }
 

@@ -10,8 +10,9 @@ class gkAngle8;
 
 /// An angle in radians, as it was given: it is reduced to one turn only by norm().
 ///
-/// The three angle classes convert into each other implicitly, since they name the same quantity; a plain number
-/// becomes an angle only where the unit is written. Comparisons are of the raw values, so 0 and 2 pi differ.
+/// The three angle classes convert into each other implicitly, since they name the same quantity; a plain
+/// number becomes an angle only where the unit is written. Comparisons are of the raw values, so 0 and 2 pi
+/// differ.
 class GKCNTR_API gkRadian {
 public:
     /// Zero.
@@ -24,8 +25,8 @@ public:
 
     /// The angle reduced to one turn, in [0, 2 pi); 2 pi itself is never returned.
     ///
-    /// 2 pi is the double 6.283185307179586. An angle just below a multiple of it gives the greatest double below 2 pi;
-    /// NaN and infinities give NaN.
+    /// 2 pi is the double 6.283185307179586. An angle just below a multiple of it gives the greatest double
+    /// below 2 pi; NaN and infinities give NaN.
     gkRadian norm() const;
 
     constexpr gkRadian operator-() const { return gkRadian(-value_); }

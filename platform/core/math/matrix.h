@@ -15,11 +15,12 @@ public:
     /// All elements zero.
     constexpr gkMatrix() = default;
     /// The four elements, row by row.
-    constexpr gkMatrix(double e00, double e01, double e10, double e11) : e00_(e00), e01_(e01), e10_(e10), e11_(e11) {}
+    constexpr gkMatrix(double e00, double e01, double e10, double e11)
+        : e00_(e00), e01_(e01), e10_(e10), e11_(e11) {}
     /// Scales by (scaleX, scaleY), then turns the x axis by `xAxis` and the y axis by `yAxis`.
     ///
-    /// The first column is scaleX (cos xAxis, sin xAxis), the second scaleY (-sin yAxis, cos yAxis), so (t, t, 1, 1) is
-    /// the pure rotation by t and unequal angles skew.
+    /// The first column is scaleX (cos xAxis, sin xAxis), the second scaleY (-sin yAxis, cos yAxis), so (t, t,
+    /// 1, 1) is the pure rotation by t and unequal angles skew.
     gkMatrix(const gkRadian& xAxis, const gkRadian& yAxis, double scaleX, double scaleY);
 
     static constexpr gkMatrix identity() { return gkMatrix(1.0, 0.0, 0.0, 1.0); }

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <utility>
 
-// How the bounds come about and where the constants are from: docs/numerics-trig.md.
+// How the bounds come about and where the constants are from: docs/numerics.md.
 
 namespace {
 

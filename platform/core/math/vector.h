@@ -11,8 +11,8 @@ template <int N> class gkVector;
 
 /// A vector (x, y). All operations are plain IEEE double arithmetic; nothing is thrown.
 ///
-/// Operations that both multiply and add are compiled in the library, not inline, so that a caller's compiler flags
-/// cannot fuse the two roundings into one and change an answer.
+/// Operations that both multiply and add are compiled in the library, not inline, so that a caller's compiler
+/// flags cannot fuse the two roundings into one and change an answer.
 template <> class GKCNTR_API gkVector<2> {
 public:
     /// (0, 0).
@@ -33,7 +33,8 @@ public:
     double length() const;
     /// Length of (other - *this); the same bits as other.distance(*this).
     double distance(const gkVector& other) const;
-    /// The direction, in (-pi, pi]; exact multiples of pi/2 along the axes, 0 for the zero vector, NaN with a NaN.
+    /// The direction, in (-pi, pi]; exact multiples of pi/2 along the axes, 0 for the zero vector, NaN with a
+    /// NaN.
     gkRadian angle() const;
     /// x * other.y - y * other.x: twice the signed area of the triangle (0, *this, other).
     double cross(const gkVector& other) const;
@@ -66,7 +67,9 @@ public:
     double operator*(const gkVector& other) const;
 
     /// Exact comparison; a NaN equals nothing, and -0.0 equals 0.0.
-    friend constexpr bool operator==(const gkVector& a, const gkVector& b) { return a.x_ == b.x_ && a.y_ == b.y_; }
+    friend constexpr bool operator==(const gkVector& a, const gkVector& b) {
+        return a.x_ == b.x_ && a.y_ == b.y_;
+    }
     friend constexpr bool operator!=(const gkVector& a, const gkVector& b) { return !(a == b); }
 
 private:

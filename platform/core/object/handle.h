@@ -45,11 +45,14 @@ protected:
         : object_(std::exchange(other.object_, nullptr)), hold_(std::move(other.hold_)) {}
     // Through a copy: the former object is let go last, when this handle is whole again.
     gk_Handle& operator=(const gk_Handle& other) noexcept {
-        gk_Handle(other).swap(*this);
+        if (this == &other) return *this;
+        gk_Handle copy(other);
+        swap(copy);
         return *this;
     }
     gk_Handle& operator=(gk_Handle&& other) noexcept {
-        gk_Handle(std::move(other)).swap(*this);
+        gk_Handle moved(std::move(other));
+        swap(moved);
         return *this;
     }
     ~gk_Handle() = default;

@@ -1,4 +1,5 @@
-// The one set of line and segment formulas, inline for the library's own loops; the exported members call these.
+// The one set of line and segment formulas, inline for the library's own loops; the exported members call
+// these.
 #ifndef GK_PLATFORM_CORE_SHAPES_LINE_OPS_H
 #define GK_PLATFORM_CORE_SHAPES_LINE_OPS_H
 

@@ -23,9 +23,9 @@ public:
 
     /// Distance from `p` to the nearest point of the segment.
     ///
-    /// With t = ((p - p1) . (p2 - p1)) / |p2 - p1|^2: to p1 when t is not above 0 (length zero and NaN included), to p2
-    /// when t >= 1, else the distance to the carrying line, the same bits as line().distToPoint(p).
-    /// Source: Ericson, Real-Time Collision Detection, 5.1.2.
+    /// With t = ((p - p1) . (p2 - p1)) / |p2 - p1|^2: to p1 when t is not above 0 (length zero and NaN
+    /// included), to p2 when t >= 1, else the distance to the carrying line, the same bits as
+    /// line().distToPoint(p). Source: Ericson, Real-Time Collision Detection, 5.1.2.
     double distToPoint(const gkVector<2>& p) const;
     /// The nearest point of the segment, by the same three cases.
     gkVector<2> closestPoint(const gkVector<2>& p) const;

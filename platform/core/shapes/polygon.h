@@ -10,7 +10,8 @@
 #include <utility>
 #include <vector>
 
-/// A list of vertices. Whether it is closed is told by its vertices: a closed polygon repeats the first one at the end.
+/// A list of vertices. Whether it is closed is told by its vertices: a closed polygon repeats the first one at
+/// the end.
 class GKCNTR_API gkPolygon {
 public:
     /// Which points count as inside where the outline crosses itself.

@@ -8,14 +8,15 @@
 
 /// An axis-aligned rectangle, kept as its two corners exactly.
 ///
-/// Corner plus size would round the far corner, and two boxes that just touch could then miss each other by one ulp,
-/// and with them a crossing at a vertex. A rectangle of size zero is a point and counts as one everywhere.
+/// Corner plus size would round the far corner, and two boxes that just touch could then miss each other by one
+/// ulp, and with them a crossing at a vertex. A rectangle of size zero is a point and counts as one everywhere.
 class GKCNTR_API gkRect {
 public:
     /// The point (0, 0).
     constexpr gkRect() = default;
     /// From a corner and the size; a negative size reaches to the other side of the corner.
-    constexpr gkRect(const gkVector<2>& corner, const gkVector<2>& size) : gkRect(fromCorners(corner, corner + size)) {}
+    constexpr gkRect(const gkVector<2>& corner, const gkVector<2>& size)
+        : gkRect(fromCorners(corner, corner + size)) {}
     /// From two opposite corners, exactly and in any order.
     static constexpr gkRect fromCorners(const gkVector<2>& a, const gkVector<2>& b) {
         gkRect rect;
@@ -35,8 +36,8 @@ public:
 
     /// The least rectangle that holds both; a rectangle of size zero counts as its point.
     ///
-    /// Each side is taken over from `other` only when it lies strictly further out, so a NaN in `other` changes nothing
-    /// and a NaN in *this stays.
+    /// Each side is taken over from `other` only when it lies strictly further out, so a NaN in `other` changes
+    /// nothing and a NaN in *this stays.
     constexpr gkRect enclose(const gkRect& other) const {
         gkRect rect;
         rect.ul_ = gkVector<2>(least(ul_.x(), other.ul_.x()), least(ul_.y(), other.ul_.y()));
@@ -54,7 +55,9 @@ public:
                ul_.y() <= other.lr_.y();
     }
 
-    friend constexpr bool operator==(const gkRect& a, const gkRect& b) { return a.ul_ == b.ul_ && a.lr_ == b.lr_; }
+    friend constexpr bool operator==(const gkRect& a, const gkRect& b) {
+        return a.ul_ == b.ul_ && a.lr_ == b.lr_;
+    }
     friend constexpr bool operator!=(const gkRect& a, const gkRect& b) { return !(a == b); }
 
 private:

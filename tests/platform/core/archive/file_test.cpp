@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 
 namespace fs = std::filesystem;
 
@@ -111,5 +112,14 @@ TEST_F(ArchiveFile, ThatCannotBeWrittenIsToldOnClose) {
     if (fs::exists("/dev/full")) {
         gkArchiveFile full("/dev/full", gkArchiveFile::eSave);
         EXPECT_THROW(full.close(), gkArchive::WriteFailed);
+    }
+}
+
+TEST_F(ArchiveFile, ThatEndsBeforeItsSizeCannotBeRead) {
+    // The kernel says a page and gives a few bytes.
+    const fs::path shorter = "/sys/kernel/uevent_seqnum";
+    std::error_code error;
+    if (fs::file_size(shorter, error) == 4096 && !error) {
+        EXPECT_THROW(gkArchiveFile(shorter, gkArchiveFile::eLoad), gkArchive::ReadFailed);
     }
 }

@@ -174,6 +174,16 @@ TEST(ArchiveNesting, IsAllowedUpToTheLimitAndNoFurther) {
     EXPECT_EQ(0, Node::alive);
 }
 
+TEST(ArchiveNesting, CountsARingUpToWhereItCloses) {
+    const std::vector<Handle> ring = chainFromItsEnd(gkArchive::depthLimit);
+    ring.front()->next = {ring.back()};
+    Handle read = test::loaded<Handle>(test::saved(ring.back()));
+    untie(ring.back());
+    untie(read);
+    read = Handle();
+    EXPECT_EQ(gkArchive::depthLimit, Node::alive);
+}
+
 TEST(ArchiveNesting, BeyondTheLimitIsRefusedWhenRead) {
     // The first node of a nested pair, again and again with the next number.
     std::string body;

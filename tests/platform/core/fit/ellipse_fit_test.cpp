@@ -381,11 +381,11 @@ TEST(EllipseFit, OfPointsOnOtherConicsIsFiniteOrRefused) {
 }
 
 TEST(EllipseFitErrors, HaveTheirNumbers) {
-    EXPECT_EQ(0x10000301, gkEllipseFitDefs::TooFewPoints(L"").errorNumber());
-    EXPECT_EQ(0x10000302, gkEllipseFitDefs::Degenerate(L"").errorNumber());
-    EXPECT_EQ(0x10000303, gkEllipseFitDefs::NotFinite(L"").errorNumber());
-    EXPECT_EQ(0x10000304, gkEllipseFitDefs::LimitExceeded(L"").errorNumber());
-    EXPECT_EQ(0x10000305, gkEllipseFitDefs::BadParams(L"").errorNumber());
+    EXPECT_EQ(0x10000401, gkEllipseFitDefs::TooFewPoints(L"").errorNumber());
+    EXPECT_EQ(0x10000402, gkEllipseFitDefs::Degenerate(L"").errorNumber());
+    EXPECT_EQ(0x10000403, gkEllipseFitDefs::NotFinite(L"").errorNumber());
+    EXPECT_EQ(0x10000404, gkEllipseFitDefs::LimitExceeded(L"").errorNumber());
+    EXPECT_EQ(0x10000405, gkEllipseFitDefs::BadParams(L"").errorNumber());
 }
 
 TEST(EllipseFitErrors, RethrowThemselvesByValue) {

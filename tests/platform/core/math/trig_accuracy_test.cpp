@@ -1,5 +1,5 @@
 // Errors of gk_Trig in ulps of the exact result, which MPFR gives with 120 bits. Both the bound and the
-// arguments that are hardest to reduce are described in docs/numerics-trig.md.
+// arguments that are hardest to reduce are described in docs/numerics.md.
 //
 // GKCNTR_TRIG_ARGUMENTS sets the number of random arguments per test, 200000 without it.
 #include "platform/core/math/trig.h"

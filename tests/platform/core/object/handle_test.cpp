@@ -88,10 +88,10 @@ TEST_F(HandleTest, IsNullByDefault) {
 TEST_F(HandleTest, ThatIsNullThrowsWhenDereferenced) {
     const gkPtrHandle<Base> handle;
     const gkPtrHandle_const<Base> constHandle;
-    EXPECT_THROW(handle->value, gkBadPointer);
-    EXPECT_THROW((*handle).value, gkBadPointer);
-    EXPECT_THROW(constHandle->value, gkBadPointer);
-    EXPECT_THROW((*constHandle).value, gkBadPointer);
+    EXPECT_THROW(static_cast<void>(handle->value), gkBadPointer);
+    EXPECT_THROW(static_cast<void>((*handle).value), gkBadPointer);
+    EXPECT_THROW(static_cast<void>(constHandle->value), gkBadPointer);
+    EXPECT_THROW(static_cast<void>((*constHandle).value), gkBadPointer);
 }
 
 TEST_F(HandleTest, FreesTheObjectWithTheLastHolder) {
@@ -175,9 +175,11 @@ TEST_F(HandleTest, OfACopiedObjectCountsTheCopyAnew) {
     const gkPtrHandle<Base> first(new Base(3));
     const gkPtrHandle<Base> copy(new Base(*first));
     EXPECT_EQ(1, copy->references());
+    const gkPtrHandle<Base> again = first;
     *copy = *first;
     EXPECT_EQ(1, copy->references());
-    EXPECT_EQ(1, first->references());
+    EXPECT_EQ(2, first->references());
+    EXPECT_EQ(0, Base(*first).references());
 }
 
 TEST_F(HandleTest, CanBeTakenOnAnObjectThatIsHeldAlready) {

@@ -1,0 +1,11 @@
+// What stops the demo, told in one sentence.
+#ifndef GK_EXAMPLES_DEMO_FAILURE_H
+#define GK_EXAMPLES_DEMO_FAILURE_H
+
+#include <stdexcept>
+
+struct Failure : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
+
+#endif

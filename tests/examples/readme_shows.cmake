@@ -1,0 +1,18 @@
+# cmake -DREADME=... -DFILE=... [-DFROM=...] -P readme_shows.cmake: the README holds the lines of the file, indented by
+# four spaces; with FROM only those from the first one that begins with it.
+file(READ ${README} readme)
+file(READ ${FILE} text)
+if(DEFINED FROM)
+  string(FIND "${text}" "${FROM}" begin)
+  if(begin EQUAL -1)
+    message(FATAL_ERROR "${FILE} has no line that begins with ${FROM}")
+  endif()
+  string(SUBSTRING "${text}" ${begin} -1 text)
+endif()
+string(REGEX REPLACE "\n$" "" text "${text}")
+string(REPLACE "\n" "\n    " text "    ${text}")
+string(REPLACE "\n    \n" "\n\n" text "${text}")
+string(FIND "${readme}" "${text}\n" found)
+if(found EQUAL -1)
+  message(FATAL_ERROR "${README} does not show these lines of ${FILE}:\n${text}")
+endif()

@@ -1,0 +1,10 @@
+# cmake -DPROGRAM=... -DEXPECTED=... -P same_output.cmake: the program succeeds and prints exactly that file.
+execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE printed ERROR_VARIABLE complaint RESULT_VARIABLE status)
+string(REPLACE "\r\n" "\n" printed "${printed}")
+file(READ ${EXPECTED} expected)
+if(NOT status EQUAL 0 OR NOT complaint STREQUAL "")
+  message(FATAL_ERROR "${PROGRAM} ended with ${status} and said: ${complaint}")
+endif()
+if(NOT printed STREQUAL expected)
+  message(FATAL_ERROR "${PROGRAM} printed\n${printed}but ${EXPECTED} has\n${expected}")
+endif()
