@@ -45,6 +45,9 @@ public:
     /// A copy; holes and kept repaired regions are shared.
     gkRegion(const gkRegion& other);
     /// As the copy constructor; when memory fails, *this stays as it was.
+    ///
+    /// Assigning through a gkContour reference replaces the contour part alone: holes and the region's own kept
+    /// results stay as they were.
     gkRegion& operator=(const gkRegion& other);
     ~gkRegion() override;
 
