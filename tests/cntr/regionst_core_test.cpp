@@ -150,7 +150,6 @@ TEST(RegionSetCore, NullHandlesStayNullAndThrowWhenAsked) {
     EXPECT_THROW(set.area(false), gkBadPointer);
     EXPECT_THROW(set.inside({0, 0}, false), gkBadPointer);
     EXPECT_THROW(static_cast<void>(set == set), gkBadPointer);
->>>>>>> repair
 }
 
 TEST(RegionSetCore, ListChangesCleanBeforeAndRebuildAfter) {
