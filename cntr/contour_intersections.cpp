@@ -40,7 +40,8 @@ std::vector<gkVector<2>> gkContour::intersections(const gkContour& other) const 
 }
 
 bool gkContour::isSelfIntersecting() const {
-    if (value_.points.size() < 2) return false; // a lone NaN vertex is unequal to itself and would pass for a segment
+    if (value_.points.size() < 2)
+        return false; // a lone NaN vertex is unequal to itself and would pass for a segment
     if (caches_.selfIntersecting.valid) return caches_.selfIntersecting.value;
     computeLineSegs();
     const gk_SegmentCache& segments = *caches_.segments.get();

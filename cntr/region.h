@@ -39,12 +39,15 @@ public:
     /// The same from a polygon's vertices, a repeated last one included. gkMathError::OutOfRange without
     /// vertices.
     gkRegion(const gkPolygon& polygon, gkContourDefs::IntersectionMode mode);
-    /// The same from a contour, whose label and cachedVectorSize come along and whose kept results do not. It is closed
-    /// whatever the contour was.
+    /// The same from a contour, whose label and cachedVectorSize come along and whose kept results do not. It
+    /// is closed whatever the contour was.
     gkRegion(const gkContour& contour, gkContourDefs::IntersectionMode mode);
     /// A copy; holes and kept repaired regions are shared.
     gkRegion(const gkRegion& other);
     /// As the copy constructor; when memory fails, *this stays as it was.
+    ///
+    /// Assigning through a gkContour reference replaces the contour part alone: holes and the region's own kept
+    /// results stay as they were.
     gkRegion& operator=(const gkRegion& other);
     ~gkRegion() override;
 

@@ -241,6 +241,10 @@ TEST(InsideCount, SendsTheRayThroughTheMiddleOfTheFirstWideGap) {
     gk_InsideCount({{10, 0}, {std::sqrt(3.0), 1}, {-10, 0}}, {0, 0}, 1.0, false, count);
     EXPECT_NEAR(std::cos(105 * std::acos(-1.0) / 180), end.x(), 1e-12);
     EXPECT_NEAR(std::sin(105 * std::acos(-1.0) / 180), end.y(), 1e-12);
+    // Directions 0, 45, 180 and 225 degrees: a gap of just pi / 4 is not wider than pi / 4.
+    gk_InsideCount({{10, 0}, {5, 5}, {-5, 0}, {-5, -5}}, {0, 0}, 1.0, false, count);
+    EXPECT_NEAR(std::cos(5 * std::acos(-1.0) / 8), end.x(), 1e-12);
+    EXPECT_NEAR(std::sin(5 * std::acos(-1.0) / 8), end.y(), 1e-12);
     // The only wide gap goes over the x axis.
     gk_InsideCount({{-1, 1}, {-1, 0.5}, {-1, 0}, {-1, -0.5}, {-1, -1}}, {0, 0}, 2.0, false, count);
     EXPECT_NEAR(2.0, end.x(), 1e-12);

@@ -110,6 +110,11 @@ TEST(RegionRepairLaws, TheBoxLiesWithinTheBoxOfTheInput) {
         260, [](const Points& given, const gkRegion& result) { expectWithinTheBox(given, result.points()); });
 }
 
+TEST(RegionRepairLaws, TheResultDoesNotCrossItself) {
+    eachRepaired(1300,
+                 [](const Points&, const gkRegion& result) { EXPECT_FALSE(result.isSelfIntersecting()); });
+}
+
 TEST(RegionRepairLaws, TheResultHasNoHolesAndLabelZero) {
     eachRepaired(300, [](const Points& given, const gkRegion& plain) {
         const gkRegion region = dressed(given);

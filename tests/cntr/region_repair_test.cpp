@@ -80,6 +80,17 @@ TEST(RegionRepair, TwoLobesSideBySideAreCutKeptAndJoinedAgain) {
     EXPECT_THAT(outerHull(region(kFigureEight)), ElementsAreArray(points("2 1, 4 2, 4 0, 2 1, 0 0, 0 2")));
 }
 
+TEST(RegionRepair, VerticesNearerThanAMillionthAreTheSameWhereLoopsAreCutAndJoined) {
+    const gkVector<2> knot(2, 1);
+    const Points near = {knot, {4, 2}, {4, 0}, knot + gkVector<2>(0.9e-6, 0), {0, 0}, {0, 2}};
+    EXPECT_EQ(2u, gk_CutLoops(near).size());
+    EXPECT_EQ(1u, gk_JoinLoops(gk_CutLoops(near)).size());
+    const Points apart = {knot, {4, 2}, {4, 0}, knot + gkVector<2>(1.1e-6, 0), {0, 0}, {0, 2}};
+    EXPECT_EQ(1u, gk_CutLoops(apart).size());
+    EXPECT_EQ(2u,
+              gk_JoinLoops({{knot, {4, 2}, {4, 0}}, {knot + gkVector<2>(1.1e-6, 0), {0, 0}, {0, 2}}}).size());
+}
+
 TEST(RegionRepair, ALoopInsideAnotherIsDroppedFromTheOuterHullAlone) {
     EXPECT_THAT(regularized(region(kDoubleTurn)),
                 ElementsAreArray(points("2 2, 8 2, 8 8, 4 8, 4 6, 6 6, 6 4, 4 4, 4 6, 2 6")));

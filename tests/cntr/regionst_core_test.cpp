@@ -265,6 +265,18 @@ TEST(RegionSetCore, EqualityIgnoresTheSetsCachedVectorSizeAndSeesTheRegions) {
     EXPECT_FALSE(set == gkRegionSet({sized}));
 }
 
+TEST(RegionSetCore, ForgettingHandlesEmptiesTheSet) {
+    gkRegionSet set(overlapping(), kKeep);
+    gkRegionSet hull;
+    set.outerHull(hull);
+    EXPECT_EQ(32.0, set.area(false));
+    set.forgetHandles();
+    EXPECT_TRUE(set.regions().empty());
+    EXPECT_EQ(0.0, set.area(false));
+    EXPECT_FALSE(set.isSelfIntersecting());
+    EXPECT_EQ(1u, hull.regions().size());
+}
+
 TEST(RegionSetCore, DrawsEachRegionInOrder) {
     gkRecordingTablet tablet;
     const gkRegionSet set({Shared(new DrawnRegion(square(1, 2, 1))), sharedSquare(8, 8, 1),

@@ -207,6 +207,15 @@ TEST(RegionSetRect, TransformsThatDifferOnlyInTheLastElementShareOneKeptBox) {
               set.encloseRect(gkXform<2>(gkMatrix<2>(1, 0, 1, 1), {0, 0})));
 }
 
+TEST(RegionSetRect, OfATransformWithNanIsAnsweredAndNotKept) {
+    const gkRegionSet set({sharedSquare(0, 0, 1)});
+    set.encloseRect(shifted(1));
+    const gkXform<2> strange(gkMatrix<2>::identity(), {std::nan(""), 0});
+    EXPECT_TRUE(std::isnan(set.encloseRect(strange).ul().x()));
+    EXPECT_TRUE(keeps(set, shifted(1)));
+    EXPECT_EQ(gkRect::fromCorners({2, 0}, {3, 1}), set.encloseRect(shifted(2)));
+}
+
 TEST(RegionSetRect, FiveTransformsLeaveFourKept) {
     const gkRegionSet set({sharedSquare(0, 0, 1)});
     for (int i = 1; i <= 4; ++i) set.encloseRect(shifted(i));

@@ -311,6 +311,25 @@ TEST(RegionSetRepair, PassesOnWhatAMemberThrows) {
     }
 }
 
+TEST(RegionSetRepair, ThatFindsNoPlaceToSpliceIsRefused) {
+    // Whether two cross is asked with the box kept in the first; where, with the box kept in the second. The
+    // latter is led astray: its box under a transform that shares the identity's key lies far above.
+    const Shared second = b();
+    second->encloseRect(gkXform<2>(gkMatrix<2>(1, 0, 0, 100), {0, 0}));
+    const gkRegionSet set({a(), second});
+    EXPECT_TRUE(set.isSelfIntersecting());
+    for (const Repair repair : kRepairs) {
+        for (int call = 0; call < 2; ++call) {
+            try {
+                repaired(set, repair);
+                FAIL() << "nothing was thrown";
+            } catch (const gkContourDefs::BadParams& error) {
+                EXPECT_EQ(L"spliced regions do not intersect", error.message());
+            }
+        }
+    }
+}
+
 TEST(RegionRepair, InPlaceReplacesTheRegion) {
     gkRegion regular(points(kSpliced));
     regular.regularize(regular);

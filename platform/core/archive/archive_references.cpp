@@ -66,7 +66,7 @@ void gk_ArchiveReferences::add(std::unique_ptr<gkPersistent> object, gkRepBase* 
     entry.sole = std::move(object);
     if (rep) {
         entry.hold = gk_RepHold(rep);
-        entry.sole.release();
+        static_cast<void>(entry.sole.release()); // the hold owns it now
     }
     entries_.push_back(std::move(entry));
 }
@@ -75,7 +75,7 @@ gkPersistent* gk_ArchiveReferences::handOut(std::uint32_t number) {
     Entry& entry = at(number);
     if (entry.rep && entry.rep->references() != 1) return nullptr;
     entry.hold.detach();
-    entry.sole.release();
+    static_cast<void>(entry.sole.release()); // the caller owns it now
     entry.rep = nullptr;
     return std::exchange(entry.object, nullptr);
 }

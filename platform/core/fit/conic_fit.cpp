@@ -81,8 +81,8 @@ Matrix3d diagonalize(Matrix3d& m) {
 Vector3d topOf(const Matrix3d& c) {
     constexpr double kFloor = 0x1p-60;
     const Eigen::JacobiSVD<Matrix3d> svd(c, Eigen::ComputeFullV);
-    const Vector3d sigma = svd.singularValues();
-    const Matrix3d v = svd.matrixV();
+    const Vector3d& sigma = svd.singularValues();
+    const Matrix3d& v = svd.matrixV();
     const double smallest = std::max(sigma(2), kFloor * sigma(0));
     const Vector3d weights(smallest / sigma(0), smallest / std::max(sigma(1), smallest), 1.0);
     Matrix3d constraint;
