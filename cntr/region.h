@@ -201,6 +201,7 @@ private:
     void initialize(gkContourDefs::IntersectionMode mode);
     void passVersion0(gkArchive& archive);
     void checkHole(const gkRegion& hole) const;
+    template <class Ask> std::vector<gkVector<2>> crossings(bool considerHoles, Ask ask) const;
     long insideCount(const gkVector<2>& point, bool bothWays) const;
     bool insideChained(const gkVector<2>& point, bool considerHoles, const Chain* outer) const;
     void repairOnce(gk_Kept<gkPtrHandle<gkRegion>>& kept, bool outerHull, gkRegion& result) const;

@@ -138,6 +138,17 @@ double gkRegion::distToPoint(const gkVector<2>& point, bool verticesOnly, bool c
     return point.distance(closestPoint(point, verticesOnly, considerHoles));
 }
 
+// What `ask` finds on the outline, followed by what it finds on each hole's outline.
+template <class Ask> std::vector<gkVector<2>> gkRegion::crossings(bool considerHoles, Ask ask) const {
+    std::vector<gkVector<2>> found = ask(*this);
+    if (!considerHoles) return found;
+    for (const auto& hole : holes_) {
+        const std::vector<gkVector<2>> more = ask(*hole);
+        found.insert(found.end(), more.begin(), more.end());
+    }
+    return found;
+}
+
 std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, bool includeEnds) const {
     return gkContour::intersections(seg, includeEnds);
 }
@@ -153,21 +164,10 @@ std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, std::vect
 
 std::vector<gkVector<2>> gkRegion::intersections(const gkLineSeg& seg, bool includeEnds,
                                                  bool considerHoles) const {
-    std::vector<gkVector<2>> found = gkContour::intersections(seg, includeEnds);
-    if (!considerHoles) return found;
-    for (const auto& hole : holes_) {
-        const std::vector<gkVector<2>> more = hole->gkContour::intersections(seg, includeEnds);
-        found.insert(found.end(), more.begin(), more.end());
-    }
-    return found;
+    return crossings(considerHoles,
+                     [&](const gkContour& outline) { return outline.intersections(seg, includeEnds); });
 }
 
 std::vector<gkVector<2>> gkRegion::intersections(const gkContour& contour, bool considerHoles) const {
-    std::vector<gkVector<2>> found = gkContour::intersections(contour);
-    if (!considerHoles) return found;
-    for (const auto& hole : holes_) {
-        const std::vector<gkVector<2>> more = hole->gkContour::intersections(contour);
-        found.insert(found.end(), more.begin(), more.end());
-    }
-    return found;
+    return crossings(considerHoles, [&](const gkContour& outline) { return outline.intersections(contour); });
 }
