@@ -4,6 +4,7 @@
 #ifndef GK_GKCNTR_H
 #define GK_GKCNTR_H
 
+#include "ch_core/cntrtmpl.h"
 #include "cntr/contour.h"
 #include "cntr/contour_defs.h"
 #include "cntr/kept.h"

@@ -22,14 +22,25 @@ gkContourDefs::DiameterMode diameterMode(const Json& step) {
     return static_cast<gkContourDefs::DiameterMode>(step.at("mode").get<int>());
 }
 
+Json errorNumber(const std::string& name) {
+    if (name.find("EmptyContour") != std::string::npos)
+        return answer::of(gkContourDefs::EmptyContour(L"").errorNumber());
+    if (name.find("EmptyRegionSet") != std::string::npos)
+        return answer::of(gkContourDefs::EmptyRegionSet(L"").errorNumber());
+    if (name.find("BadParams") != std::string::npos)
+        return answer::of(gkContourDefs::BadParams(L"").errorNumber());
+    return answer::of(gkContourDefs::RegionCannotBeSetOpen(L"").errorNumber());
+}
+
 gkVector<2> probe(const Json& step) { return answer::vector(step.at("p")); }
 
 } // namespace
 
 Json World::ask(const Json& step) {
     // Each group answers the operations it knows and null for others.
-    for (const auto group : {&World::make, &World::askContour, &World::askContourProtected,
-                             &World::askFreeFunction, &World::askRegion, &World::askSet}) {
+    for (const auto group :
+         {&World::makeEdgelets, &World::askEdgelets, &World::make, &World::askContour,
+          &World::askContourProtected, &World::askFreeFunction, &World::askRegion, &World::askSet}) {
         Json answered = (this->*group)(step);
         if (!answered.is_null()) return answered;
     }
@@ -206,6 +217,7 @@ Json World::askFreeFunction(const Json& step) {
     if (op == "gfInertia") return answer::of(gf_InertiaDataPolygon(answer::points(step.at("points"))));
     if (op == "inertiaAdd") return answer::of(answer::inertia(step.at("a")) + answer::inertia(step.at("b")));
     if (op == "ellipse") return answer::of(gf_EllipseFromInertiaData(answer::inertia(step.at("inertia"))));
+    if (op == "errorNumber") return errorNumber(step.at("cls"));
     if (op == "stdDev") {
         std::vector<double> values;
         for (const Json& value : step.at("values")) values.push_back(answer::number(value));

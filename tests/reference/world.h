@@ -3,6 +3,7 @@
 #define GK_TESTS_REFERENCE_WORLD_H
 
 #include "cntr/regionst.h"
+#include "platform/core/transform/xform_base.h"
 
 #include <nlohmann/json.hpp>
 
@@ -34,9 +35,14 @@ private:
     nlohmann::json askFreeFunction(const nlohmann::json& step);
     nlohmann::json askRegion(const nlohmann::json& step);
     nlohmann::json askSet(const nlohmann::json& step);
+    nlohmann::json makeEdgelets(const nlohmann::json& step);
+    nlohmann::json askEdgelets(const nlohmann::json& step);
+    nlohmann::json askEdgeletSet(const nlohmann::json& step);
+    static void refusedByEdgelets(const std::string& op, gkContour& shape);
 
     std::map<std::string, gkPtrHandle<gkContour>> shapes_;
     std::map<std::string, gkPtrHandle<gkRegionSet>> sets_;
+    std::map<std::string, gkPtrHandle_const<gk2XformBase>> xforms_;
 };
 
 #endif
