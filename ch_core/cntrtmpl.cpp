@@ -231,7 +231,7 @@ gk_Instantiator gkRegionSetT<Datum>::sExemplar(typeid(gkRegionSetT<Datum>), "gkR
 template <class Datum> gkRegionSetT<Datum>::gkRegionSetT() = default;
 
 template <class Datum> gkRegionSetT<Datum>::gkRegionSetT(const Regions& regions) : regionsT_(regions) {
-    gkRegionSetT::makePointsConsistentWithData();
+    fillPlainList(); // and nothing is kept yet that would have to be forgotten
 }
 
 template <class Datum>
@@ -265,9 +265,13 @@ template <class Datum> void gkRegionSetT<Datum>::forgetHandles() noexcept {
     regionsT_.clear();
 }
 
+template <class Datum> void gkRegionSetT<Datum>::fillPlainList() {
+    setRegions(std::vector<gkPtrHandle_const<gkRegion>>(regionsT_.begin(), regionsT_.end()));
+}
+
 template <class Datum> void gkRegionSetT<Datum>::makePointsConsistentWithData() {
     cleanCacheInfo();
-    setRegions(std::vector<gkPtrHandle_const<gkRegion>>(regionsT_.begin(), regionsT_.end()));
+    fillPlainList();
 }
 
 template <class Datum> void gkRegionSetT<Datum>::makeDataConsistentWithPoints() {

@@ -187,6 +187,8 @@ protected:
     void cleanCacheInfo() override;
 
 private:
+    void fillPlainList();
+
     Regions regionsT_;
 };
 
