@@ -12,7 +12,7 @@
 #include <stdexcept>
 #include <string>
 
-// The step asks for something that the library does not have (yet).
+// The step asks for an operation, or for an object, that this test does not know.
 struct NotBuilt : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
