@@ -1,5 +1,6 @@
 #include "cntr/contour.h"
 
+#include "cntr/index.h"
 #include "cntr/region.h"
 #include "cntr/segment_cache.h"
 #include "cntr/vertex_grid.h"
@@ -119,9 +120,7 @@ void gkContour::label(unsigned long label) {
 }
 
 void gkContour::cachedVectorSize(long size) {
-    if (size < 0) throw gkContourDefs::BadParams(L"");
-    if (size > 0x7FFFFFFFl) throw gkContourDefs::BadParams(L"cachedVectorSize does not fit in 32 bits");
-    value_.cachedVectorSize = static_cast<std::int32_t>(size);
+    value_.cachedVectorSize = gk_FittingCachedVectorSize(size);
     mutating();
 }
 

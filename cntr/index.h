@@ -15,4 +15,11 @@ template <class Integer> Integer gk_IndexAs(std::size_t index) {
     return static_cast<Integer>(index);
 }
 
+// A shape's cachedVectorSize as it is kept; a negative one, or one beyond 32 bits, is refused.
+inline std::int32_t gk_FittingCachedVectorSize(long size) {
+    if (size < 0) throw gkContourDefs::BadParams(L"");
+    if (size > INT32_MAX) throw gkContourDefs::BadParams(L"cachedVectorSize does not fit in 32 bits");
+    return static_cast<std::int32_t>(size);
+}
+
 #endif

@@ -1,5 +1,7 @@
 #include "cntr/regionst.h"
 
+#include "cntr/index.h"
+
 #include <utility>
 
 namespace {
@@ -86,9 +88,7 @@ void gkRegionSet::repair(gkContourDefs::IntersectionMode mode) {
 void gkRegionSet::setRegions(const std::vector<gkPtrHandle_const<gkRegion>>& regions) { regions_ = regions; }
 
 void gkRegionSet::cachedVectorSize(long size) {
-    if (size < 0) throw gkContourDefs::BadParams(L"");
-    if (size > 0x7FFFFFFFl) throw gkContourDefs::BadParams(L"cachedVectorSize does not fit in 32 bits");
-    cachedVectorSize_ = static_cast<std::int32_t>(size);
+    cachedVectorSize_ = gk_FittingCachedVectorSize(size);
     mutating();
 }
 
