@@ -5,6 +5,7 @@
 #define GK_GKCNTR_H
 
 #include "ch_core/cntrtmpl.h"
+#include "cntr/change_mark.h"
 #include "cntr/contour.h"
 #include "cntr/contour_defs.h"
 #include "cntr/kept.h"

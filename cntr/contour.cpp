@@ -2,9 +2,10 @@
 
 #include "cntr/index.h"
 #include "cntr/region.h"
+#include "cntr/search/outline_search.h"
 #include "cntr/segment_cache.h"
-#include "cntr/vertex_grid.h"
 #include "platform/core/math/real.h"
+#include "platform/core/math/xform_ops.h"
 
 #include <utility>
 
@@ -68,6 +69,7 @@ gkContour::gkContour() : gkContour(std::vector<gkVector<2>>(), true, 0) {}
 // A constructor reaches this class's own hook, which only forgets results; a derived class fills its data
 // itself.
 gkContour::gkContour(const std::vector<gkVector<2>>& points, bool closed, unsigned long label) {
+    initializePointers();
     value_.label = fittingLabel(label);
     value_.closed = closed;
     value_.points = points;
@@ -75,6 +77,7 @@ gkContour::gkContour(const std::vector<gkVector<2>>& points, bool closed, unsign
 }
 
 gkContour::gkContour(const gkPolygon& polygon, unsigned long label) {
+    initializePointers();
     value_.label = fittingLabel(label);
     value_.points = polygon.vertices();
     value_.closed = gfRealEq(polygon[0], polygon[polygon.size() - 1], 1e-15);
@@ -82,6 +85,7 @@ gkContour::gkContour(const gkPolygon& polygon, unsigned long label) {
 }
 
 gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(other), value_() {
+    initializePointers();
     gkContour::operator=(other);
 }
 
@@ -94,7 +98,7 @@ gkContour& gkContour::operator=(const gkContour& other) {
     return *this;
 }
 
-gkContour::~gkContour() = default;
+gkContour::~gkContour() { deletePointers(); }
 
 void gkContour::points(const std::vector<gkVector<2>>& points) {
     setPoints(points);
@@ -133,7 +137,8 @@ gkPolygon gkContour::polygon() const {
 void gkContour::map(const gkXform<2>& xform, gkContour& out) const {
     std::vector<gkVector<2>> mapped;
     mapped.reserve(value_.points.size());
-    for (const gkVector<2>& point : value_.points) mapped.push_back(xform * point);
+    const gk_XformOps ops(xform);
+    for (const gkVector<2>& point : value_.points) mapped.push_back(ops.image(point));
     // Assigning a fresh contour resets cachedVectorSize to 3; this is meant.
     out = gkContour(mapped, isClosed(), label());
 }
@@ -151,14 +156,18 @@ void gkContour::makeDataConsistentWithPoints() { cleanCacheInfo(); }
 
 void gkContour::makePointsConsistentWithData() { cleanCacheInfo(); }
 
-void gkContour::deletePointers() {
+void gkContour::initializePointers() {
     caches_.encloseRects.reset();
     caches_.extremalVertices.reset();
-    caches_.vertexGrids.reset();
+    caches_.search.reset();
 }
+
+// Each pointer frees what it owned, so to let go is to start anew.
+void gkContour::deletePointers() { initializePointers(); }
 
 void gkContour::cleanCacheInfo() {
     mutating();
+    caches_.mark.noteChange();
     deletePointers();
     caches_.segments.reset();
     caches_.meanPosition.valid = false;

@@ -3,6 +3,7 @@
 #ifndef GK_CNTR_CONTOUR_H
 #define GK_CNTR_CONTOUR_H
 
+#include "cntr/change_mark.h"
 #include "cntr/contour_defs.h"
 #include "cntr/kept.h"
 #include "platform/core/math/angle.h"
@@ -27,7 +28,8 @@
 #include <vector>
 
 class gkRegion;
-class gk_VertexGrids;
+class gk_OutlineSearch;
+class gk_RegionBoxes;
 struct gk_SegmentCache;
 
 /// An ordered list of vertices that is either open (a polyline) or closed (the last vertex joins the first).
@@ -49,6 +51,11 @@ struct gk_SegmentCache;
 /// coordinates in metres are best scaled up first. Vertices may be NaN or infinite: nothing hangs or reads out
 /// of bounds, and each operation says what it then returns. No vertex list longer than 2^31 - 1 is indexed:
 /// BadParams is thrown instead.
+///
+/// Costs are those of a fresh contour, for which a question scans; from the second or some later question of a
+/// kind on an index answers, kept like any other result. "Then" tells the cost from there on where vertices
+/// spread evenly; a shape with all vertices in a few places may still cost a scan. The bits of an answer do not
+/// depend on it.
 ///
 /// \b Throws: EmptyContour (empty message) where an operation needs 2 vertices and has fewer; nothing is kept
 /// then.
@@ -127,7 +134,8 @@ public:
     /// The circle over the farthest pair of vertices need not hold every vertex: for an equilateral triangle it
     /// does not.
     ///
-    /// eExact: centre and half distance of the first pair that is farthest apart, O(n^2). When no pair is
+    /// eExact: centre and half distance of the first pair that is farthest apart, O(n log n) where few
+    /// vertices are near the hull. When no pair is
     /// farther apart than 0 (one vertex, all equal, none) the slot keeps what it held, at first the default
     /// circle; this is meant. eApproximate: centred on the first vertex and reaching the farthest one, O(n); it
     /// does hold every vertex. Throws BadParams "diameterMode is not one of the valid enums"; EmptyContour for
@@ -142,7 +150,7 @@ public:
     ///
     /// Kept per angle, compared as raw values. Axis directions (cosine and sine within 1e-15) compare the
     /// coordinate itself. -1 when no vertex has a finite score (NaN coordinates). Throws EmptyContour. Cost:
-    /// O(n).
+    /// O(n), then O(vertices near the hull).
     long extremalVertexIndex(const gkRadian& angle) const;
 
     /// The vertex at extremalVertexIndex(angle). Throws EmptyContour; BadParams when that index is -1.
@@ -153,7 +161,7 @@ public:
     /// Kept per transform; two transforms that differ only in matrix element (1,1) share one kept box, on
     /// purpose (see gsSTLLessPredicate). A transform within 1e-15 of the identity takes the vertices as they
     /// are. NaN coordinates are passed over, but one of the first vertex stays. Throws EmptyContour. Cost:
-    /// O(n).
+    /// O(n), then O(vertices near the hull).
     gkRect encloseRect(const gkXform<2>& xform) const;
 
     /// Sets `out` to the convex hull of the vertices: counter-clockwise from the lowest x, without collinear
@@ -177,11 +185,11 @@ public:
     ///
     /// On the first of equally near segments; a segment of length zero counts as its point. (0, 0) when no
     /// segment has a distance below infinity (NaN or infinite coordinates). Throws EmptyContour. Cost: O(n),
-    /// keeps nothing. Source: Ericson, Real-Time Collision Detection, 5.1.2.
+    /// then O(log n). Source: Ericson, Real-Time Collision Detection, 5.1.2.
     gkVector<2> closestPoint(const gkVector<2>& p, bool verticesOnly) const;
 
     /// Index of the vertex nearest to `p`, the lowest among equals; 0 when no distance is below infinity.
-    /// Throws EmptyContour. Cost: O(n).
+    /// Throws EmptyContour. Cost: O(n), then O(log n).
     long closestVertexIndex(const gkVector<2>& p) const;
 
     /// Distance from `p` to closestPoint(p, verticesOnly). Being inside does not make it zero. Throws
@@ -191,9 +199,9 @@ public:
     /// Indices of all vertices strictly nearer to `p` than `tolerance`, which must be above 0.
     ///
     /// They come cell by cell (columns outside, rows inside) of a grid of that cell width around `p`, by index
-    /// within a cell: not sorted overall. The grid of every tolerance asked for is kept. Throws EmptyContour;
-    /// where a coordinate divided by the tolerance is NaN, gstd_assert_ is called. Cost: O(n log n) for a new
-    /// tolerance, then O(log n + vertices in the 3 x 3 cells).
+    /// within a cell: not sorted overall. Throws EmptyContour; where a coordinate divided by the tolerance is
+    /// NaN, gstd_assert_ is called. Cost: O(n) for a new tolerance, then O(log n + k log k) for k vertices near
+    /// `p`.
     std::vector<int> vertexIndex(const gkVector<2>& p, double tolerance) const;
     /// @}
 
@@ -206,18 +214,21 @@ public:
     /// segments give none. Without `includeEnds`, contour segments within 1e-6 of an end of `seg` are left out.
     /// A point counts when it is nearer than 1e-6 to both segments. The contour's own box comes from
     /// encloseRect of the identity, kept box and all: after encloseRect of a transform that differs from the
-    /// identity only in element (1,1), that box is the one used. This is meant. Throws EmptyContour. Cost: O(n
-    /// + k^2) for k crossings.
+    /// identity only in element (1,1), that box is the one used. This is meant. Throws EmptyContour. Cost:
+    /// O(n), then O(log n + segments beside `seg`); and O(k log k) for k crossings, O(k^2) where some are
+    /// equally far along `seg`.
     std::vector<gkVector<2>> intersections(const gkLineSeg& seg, bool includeEnds) const;
 
     /// The crossings of every segment of `other` with this contour, concatenated in the order of other's
-    /// segments, ends included. `other` may have any number of vertices. Throws EmptyContour. Cost: O(n m).
+    /// segments, ends included. `other` may have any number of vertices. Throws EmptyContour. Cost:
+    /// O((n + m) log n + crossings), O(n m) for small contours.
     std::vector<gkVector<2>> intersections(const gkContour& other) const;
 
     /// True when a segment of the contour crosses another one that does not touch its ends (within 1e-6).
     ///
     /// A vertex lying on another segment is found from that segment's side; collinear overlaps are not found.
-    /// False for fewer than 2 vertices; never throws for the contour's shape. Cost: O(n^2), kept.
+    /// False for fewer than 2 vertices; never throws for the contour's shape. Cost: O(n log n) and the
+    /// pairs of segments that are near each other; kept.
     bool isSelfIntersecting() const;
     /// @}
 
@@ -254,8 +265,12 @@ protected:
     /// As the public intersections(seg, includeEnds); `segIndices` tells the contour segment of each point.
     std::vector<gkVector<2>> intersections(const gkLineSeg& seg, std::vector<int>& segIndices,
                                            bool includeEnds) const;
+    /// What answers questions about the outline's vertices; the library's own.
+    gk_OutlineSearch& search() const;
 
 private:
+    friend class gk_RegionBoxes;
+
     struct Value {
         std::uint32_t label = 0;
         bool closed = true;
@@ -286,16 +301,23 @@ private:
         gk_Owned<ExtremalMap> extremalVertices;
         gk_Kept<EllipseFit> ellipseFit;
         gk_Owned<gk_SegmentCache> segments;
+        gk_Owned<gk_OutlineSearch> search;
         gk_Kept<bool> selfIntersecting;
         gk_Kept<double> medianFeatureSize;
-        gk_Owned<gk_VertexGrids> vertexGrids;
+        gk_ChangeMark mark;
     };
 
     static gkPersistent* make();
     static gk_Instantiator sExemplar;
 
     static void passValue(gkArchive& archive, Value& value, unsigned char version);
+    /// The maps and grids that the contour owns by pointer are absent until the first query that fills them.
+    void initializePointers();
     void deletePointers();
+    /// The box kept under the identity's key, null when there is none.
+    const gkRect* keptBox() const;
+    /// Counts as a change when an index could take the kept boxes for others than they now become.
+    void noteNewBox(const gkXform<2>& xform, const RectMap& known) const;
 
     Value value_;
     mutable Caches caches_;

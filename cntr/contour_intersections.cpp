@@ -1,18 +1,18 @@
 #include "cntr/contour.h"
 #include "cntr/crossings.h"
-#include "cntr/segment_cache.h"
-#include "cntr/segment_walk.h"
-#include "cntr/vertex_grid.h"
+#include "cntr/search/outline_search.h"
+
+#include <algorithm>
 
 std::vector<gkVector<2>> gkContour::intersections(const gkLineSeg& seg, std::vector<int>& segIndices,
                                                   bool includeEnds) const {
     checkEmptyContour();
     segIndices.clear();
+    const gk_CrossingTest query(seg, includeEnds);
     // Asked like any caller asks, kept box included: a box kept for a transform with another element (1,1) is
     // used.
-    if (!encloseRect(gkXform<2>()).overlaps(gk_SegmentBox(seg.p1(), seg.p2()))) return {};
-    computeLineSegs();
-    std::vector<gk_Crossing> crossings = gk_Crossings(*caches_.segments.get(), seg, includeEnds);
+    if (!gk_Box::of(encloseRect(gkXform<2>())).overlaps(query.box())) return {};
+    std::vector<gk_Crossing> crossings = search().crossings(gk_Segments(value_.points, isClosed()), query);
     gk_OrderAlong(seg, crossings);
     std::vector<gkVector<2>> points;
     points.reserve(crossings.size());
@@ -31,11 +31,19 @@ std::vector<gkVector<2>> gkContour::intersections(const gkLineSeg& seg, bool inc
 
 std::vector<gkVector<2>> gkContour::intersections(const gkContour& other) const {
     checkEmptyContour();
+    const gk_Segments outline(value_.points, isClosed());
+    const gk_Segments queries(other.value_.points, other.isClosed());
     std::vector<gkVector<2>> points;
-    gk_WalkSegments(other.value_.points, other.isClosed(), [&](const gkVector<2>& p1, const gkVector<2>& p2) {
-        const std::vector<gkVector<2>> found = intersections(gkLineSeg(p1, p2), true);
-        points.insert(points.end(), found.begin(), found.end());
-    });
+    std::vector<int> segIndices;
+    for (std::size_t begin = 0; begin < queries.size(); begin += gk_SegmentTree::kRun) {
+        const gk_SegmentTree::Range run{begin, std::min(begin + gk_SegmentTree::kRun, queries.size())};
+        if (begin > 0 && !search().mayCross(outline, gk_RunBox(queries, run))) continue;
+        for (std::size_t k = run.begin; k < run.end; ++k) {
+            const std::vector<gkVector<2>> found =
+                intersections(gkLineSeg(queries.first(k), queries.second(k)), segIndices, true);
+            points.insert(points.end(), found.begin(), found.end());
+        }
+    }
     return points;
 }
 
@@ -43,14 +51,9 @@ bool gkContour::isSelfIntersecting() const {
     if (value_.points.size() < 2)
         return false; // a lone NaN vertex is unequal to itself and would pass for a segment
     if (caches_.selfIntersecting.valid) return caches_.selfIntersecting.value;
-    computeLineSegs();
-    const gk_SegmentCache& segments = *caches_.segments.get();
-    bool crossing = false;
-    for (std::size_t k = 0; k < segments.segments.size() && !crossing; ++k) {
-        crossing = segments.validLine[k] && !intersections(segments.segments[k], false).empty();
-    }
-    caches_.selfIntersecting.value = crossing;
+    const gk_Segments outline(value_.points, isClosed());
+    caches_.selfIntersecting.value = search().crossesItself(outline, gk_Box::of(encloseRect(gkXform<2>())));
     caches_.selfIntersecting.valid = true;
     mutating();
-    return crossing;
+    return caches_.selfIntersecting.value;
 }

@@ -1,9 +1,7 @@
 // The contour's archive record, both versions, and its drawing.
 #include "cntr/contour.h"
 #include "cntr/legacy_base.h"
-#include "cntr/segment_cache.h"
 #include "cntr/segment_walk.h"
-#include "cntr/vertex_grid.h"
 #include "platform/core/archive/archive.h"
 #include "platform/core/object/instantiator.h"
 

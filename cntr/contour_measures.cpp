@@ -4,8 +4,7 @@
 #include "cntr/measures.h"
 #include "cntr/moments.h"
 #include "cntr/region.h"
-#include "cntr/segment_cache.h"
-#include "cntr/vertex_grid.h"
+#include "cntr/search/outline_search.h"
 #include "platform/core/shapes/convex_hull.h"
 
 double gkContour::length() const {
@@ -35,7 +34,7 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     const auto slot = static_cast<std::size_t>(mode);
     if (caches_.circleValid[slot]) return caches_.circles[slot];
     if (mode == gkContourDefs::eExact) {
-        gk_CircleOverFarthestPair(value_.points, caches_.circles[slot]);
+        search().circleOverFarthestPair(value_.points, caches_.circles[slot]);
     } else {
         if (value_.points.empty()) throw gkContourDefs::EmptyContour(L"");
         caches_.circles[slot] = gk_CircleAroundFirst(value_.points);
@@ -54,7 +53,7 @@ long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     ExtremalMap& known = caches_.extremalVertices.made();
     const auto entry = known.find(angle);
     if (entry != known.end()) return entry->second;
-    const long index = gk_ExtremalVertex(value_.points, angle);
+    const long index = search().extremalVertex(value_.points, angle);
     gk_InsertBounded(known, angle, static_cast<std::int32_t>(index),
                      static_cast<std::size_t>(cachedVectorSize()));
     mutating();
@@ -72,10 +71,28 @@ gkRect gkContour::encloseRect(const gkXform<2>& xform) const {
     RectMap& known = caches_.encloseRects.made();
     const auto entry = known.find(xform);
     if (entry != known.end()) return entry->second;
-    const gkRect rect = gk_EncloseRect(value_.points, xform);
+    const gkRect rect = search().encloseRect(value_.points, xform);
+    noteNewBox(xform, known);
     gk_InsertBounded(known, xform, rect, static_cast<std::size_t>(cachedVectorSize()));
     mutating();
     return rect;
+}
+
+const gkRect* gkContour::keptBox() const {
+    if (!caches_.encloseRects.get()) return nullptr;
+    const auto entry = caches_.encloseRects.get()->find(gkXform<2>());
+    return entry == caches_.encloseRects.get()->end() ? nullptr : &entry->second;
+}
+
+// The identity's own box is what an index expects. Another transform may bring a box of its own under the
+// identity's key, or push the identity's box out, after which it would have to be asked for again.
+void gkContour::noteNewBox(const gkXform<2>& xform, const RectMap& known) const {
+    if (!caches_.mark.isSet()) return;
+    const gsSTLLessPredicate isLess;
+    const gkXform<2> identity;
+    const bool hasItsKey = !isLess(xform, identity) && !isLess(identity, xform);
+    const bool pushesOut = known.size() > static_cast<std::size_t>(cachedVectorSize());
+    if (hasItsKey ? xform.matrix().element(1, 1) != 1.0 : pushesOut) caches_.mark.noteChange();
 }
 
 void gkContour::convexHull(gkRegion& out) const {

@@ -1,8 +1,10 @@
 #include "cntr/contour.h"
 #include "cntr/index.h"
 #include "cntr/measures.h"
+#include "cntr/search/outline_search.h"
 #include "cntr/segment_cache.h"
-#include "cntr/vertex_grid.h"
+
+gk_OutlineSearch& gkContour::search() const { return caches_.search.made(); }
 
 void gkContour::computeLineSegs() const {
     gk_SegmentCache& segments = caches_.segments.made();
@@ -23,13 +25,13 @@ const std::vector<bool>& gkContour::validLine() const {
 
 gkVector<2> gkContour::closestPoint(const gkVector<2>& p, bool verticesOnly) const {
     checkEmptyContour();
-    if (verticesOnly) return value_.points[gk_ClosestVertex(value_.points, p)];
-    return gk_ClosestPoint(value_.points, isClosed(), p);
+    if (verticesOnly) return value_.points[search().nearestVertex(value_.points, p)];
+    return search().nearestPoint(gk_Segments(value_.points, isClosed()), p);
 }
 
 long gkContour::closestVertexIndex(const gkVector<2>& p) const {
     checkEmptyContour();
-    return gk_IndexAs<long>(gk_ClosestVertex(value_.points, p));
+    return gk_IndexAs<long>(search().nearestVertex(value_.points, p));
 }
 
 double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {
@@ -38,9 +40,8 @@ double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {
 
 std::vector<int> gkContour::vertexIndex(const gkVector<2>& p, double tolerance) const {
     checkEmptyContour();
-    gk_VertexGrids& grids = caches_.vertexGrids.made();
-    if (!grids.holds(tolerance)) mutating();
-    return grids.near(value_.points, p, tolerance);
+    if (!search().holdsCells(tolerance)) mutating();
+    return search().verticesWithin(value_.points, p, tolerance);
 }
 
 double gkContour::medianFeatureSize() const {

@@ -1,8 +1,9 @@
-// Where a segment crosses an outline.
+// Where a segment crosses an outline, and whether an outline crosses itself.
 #ifndef GK_CNTR_CROSSINGS_H
 #define GK_CNTR_CROSSINGS_H
 
-#include "cntr/segment_cache.h"
+#include "cntr/search/crossing_test.h"
+#include "cntr/search/segment_tree.h"
 
 #include <vector>
 
@@ -12,10 +13,17 @@ struct gk_Crossing {
     int segment = 0;
 };
 
-// The crossings of `seg` with the outline's segments, in segment order. A crossing at an outline's vertex is
-// found on both segments that meet there; parallel and collinear segments give none. Without `includeEnds`,
-// outline segments within 1e-6 of an end of `seg` are left out.
-std::vector<gk_Crossing> gk_Crossings(const gk_SegmentCache& outline, const gkLineSeg& seg, bool includeEnds);
+// The crossings of a query segment with the outline's segments, in segment order. A crossing at an outline's
+// vertex is found on both segments that meet there; parallel and collinear segments give none.
+std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_CrossingTest& query);
+// The same by a tree of these segments.
+std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_SegmentTree& tree,
+                                      const gk_CrossingTest& query);
+
+// Whether a segment of the outline crosses another one that does not touch its ends. Segments whose boxes do
+// not overlap `box`, the outline's own as its owner keeps it, are not asked.
+bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box);
+bool gk_CrossesItself(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_Box& box);
 
 // Puts crossings in order along `seg` by exchanges. Not a stable sort: which of two crossings with the same key
 // comes first follows from the exchanges made, and callers rely on that order.

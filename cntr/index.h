@@ -15,6 +15,14 @@ template <class Integer> Integer gk_IndexAs(std::size_t index) {
     return static_cast<Integer>(index);
 }
 
+// A number of vertices of which the repairs count twice around: their indices run up to once past either end.
+inline long gk_SizeAsLoop(std::size_t size) {
+    if (size > static_cast<std::size_t>(INT32_MAX / 2)) {
+        throw gkContourDefs::BadParams(L"more vertices than a repair can count twice around in 32 bits");
+    }
+    return static_cast<long>(size);
+}
+
 // A shape's cachedVectorSize as it is kept; a negative one, or one beyond 32 bits, is refused.
 inline std::int32_t gk_FittingCachedVectorSize(long size) {
     if (size < 0) throw gkContourDefs::BadParams(L"");

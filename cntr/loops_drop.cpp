@@ -5,26 +5,27 @@
 
 namespace {
 
-// The first loop, in order, that lies inside another one; the number of loops when there is none.
-std::size_t firstInner(std::vector<gk_Outline>& loops) {
-    for (std::size_t i = 0; i < loops.size(); ++i) {
-        for (std::size_t k = 0; k < loops.size(); ++k) {
-            if (k == i) continue;
-            const gkVector<2> middle = (loops[i].wrapped(0) + loops[i].wrapped(1)) / 2.0;
-            if (loops[k].inside(middle)) return i;
-        }
+bool isInner(std::vector<gk_Outline>& loops, std::size_t i) {
+    const gkVector<2> middle = (loops[i].wrapped(0) + loops[i].wrapped(1)) / 2.0;
+    for (std::size_t k = 0; k < loops.size(); ++k) {
+        if (k != i && loops[k].inside(middle)) return true;
     }
-    return loops.size();
+    return false;
 }
 
 } // namespace
 
-// Ends: every round leaves one loop fewer.
+// Ends: every round leaves one loop fewer or goes on to the next. A loop in no other one is in none when there
+// are fewer, so none is looked at twice.
 std::vector<gk_Loop> gk_DropInnerLoops(std::vector<gk_Loop> loops) {
     std::vector<gk_Outline> outlines;
     outlines.reserve(loops.size());
     for (gk_Loop& loop : loops) outlines.emplace_back(std::move(loop));
-    for (std::size_t i = firstInner(outlines); i < outlines.size(); i = firstInner(outlines)) {
+    for (std::size_t i = 0; i < outlines.size();) {
+        if (!isInner(outlines, i)) {
+            ++i;
+            continue;
+        }
         if (i + 1 < outlines.size()) outlines[i] = std::move(outlines.back());
         outlines.pop_back();
     }

@@ -14,10 +14,12 @@ struct Join {
     long otherVertex;
 };
 
-bool findJoin(std::vector<gk_Outline>& loops, Join& join) {
-    for (std::size_t i = 0; i + 1 < loops.size(); ++i) {
+// The first join of the loops from `from` on.
+bool findJoin(std::vector<gk_Outline>& loops, std::size_t from, Join& join) {
+    for (std::size_t i = from; i + 1 < loops.size(); ++i) {
         for (std::size_t k = i + 1; k < loops.size(); ++k) {
             for (long j = 0; j < loops[i].size(); ++j) {
+                if (!loops[k].mayHaveNear(loops[i][j], kSameVertex)) continue;
                 const std::vector<int> shared = loops[k].near(loops[i][j], kSameVertex);
                 if (shared.empty()) continue;
                 join = {i, k, j, shared.front()};
@@ -38,12 +40,13 @@ gk_Loop joined(const gk_Outline& one, long oneVertex, const gk_Outline& other, l
 
 } // namespace
 
-// Ends: every join leaves one loop fewer.
+// Ends: every join leaves one loop fewer. The loops before the joined one share no vertex with any behind them,
+// so none with what the join makes of those.
 std::vector<gk_Loop> gk_JoinLoops(std::vector<gk_Loop> loops) {
     std::vector<gk_Outline> outlines;
     outlines.reserve(loops.size());
     for (gk_Loop& loop : loops) outlines.emplace_back(std::move(loop));
-    for (Join join{}; findJoin(outlines, join);) {
+    for (Join join{}; findJoin(outlines, join.one, join);) {
         outlines[join.one] =
             gk_Outline(joined(outlines[join.one], join.oneVertex, outlines[join.other], join.otherVertex));
         if (join.other + 1 < outlines.size()) outlines[join.other] = std::move(outlines.back());

@@ -3,6 +3,7 @@
 #include "cntr/index.h"
 #include "cntr/segment_walk.h"
 #include "platform/core/math/trig.h"
+#include "platform/core/math/xform_ops.h"
 #include "platform/core/shapes/line_ops.h"
 
 #include <algorithm>
@@ -11,23 +12,87 @@
 
 namespace {
 
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
+// The vertices of a list, all of them or those of some ascending indices.
+class All {
+public:
+    explicit All(const std::vector<gkVector<2>>& points) : points_(points) {}
+    std::size_t size() const { return points_.size(); }
+    std::size_t index(std::size_t i) const { return i; }
+    const gkVector<2>& operator[](std::size_t i) const { return points_[i]; }
+
+private:
+    const std::vector<gkVector<2>>& points_;
+};
+
+class Some {
+public:
+    Some(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& indices)
+        : points_(points), indices_(indices) {}
+    std::size_t size() const { return indices_.size(); }
+    std::size_t index(std::size_t i) const { return indices_[i]; }
+    const gkVector<2>& operator[](std::size_t i) const { return points_[indices_[i]]; }
+
+private:
+    const std::vector<gkVector<2>>& points_;
+    const std::vector<std::uint32_t>& indices_;
+};
 
 // Index of the first vertex with the greatest score above the most negative double; -1 when there is none.
-template <class Score> long firstGreatest(const std::vector<gkVector<2>>& points, Score score) {
+template <class Vertices, class Score> long firstGreatest(const Vertices& vertices, Score score) {
     double best = std::numeric_limits<double>::lowest();
     long index = -1;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const double candidate = score(points[i]);
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+        const double candidate = score(vertices[i]);
         if (candidate > best) {
             best = candidate;
-            index = gk_IndexAs<long>(i);
+            index = gk_IndexAs<long>(vertices.index(i));
         }
     }
     return index;
 }
 
-gkRect pointBox(const gkVector<2>& point) { return gkRect(point, gkVector<2>()); }
+template <class Vertices> long extremalVertex(const Vertices& vertices, const gkRadian& angle) {
+    const gk_Trig::SinCos unit = gk_Trig::sinCos(angle.toDouble());
+    const gkVector<2> direction(unit.cos, unit.sin);
+    const auto isAxis = [&](double x, double y) { return gfRealEq(direction, gkVector<2>(x, y), 1e-15); };
+    // Axis directions compare the coordinate itself, free of the rounding of sine and cosine.
+    if (isAxis(1.0, 0.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return v.x(); });
+    if (isAxis(-1.0, 0.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return -v.x(); });
+    if (isAxis(0.0, 1.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return v.y(); });
+    if (isAxis(0.0, -1.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return -v.y(); });
+    return firstGreatest(vertices, [&](const gkVector<2>& v) { return gk_VectorOps::dot(direction, v); });
+}
+
+// A side moves only strictly further out, as gkRect::enclose says: a NaN is passed over, but for the first
+// vertex's.
+template <class Vertices, class Mapped> gkRect boxOf(const Vertices& vertices, Mapped mapped) {
+    const gkVector<2> first = mapped(vertices[0]);
+    double left = first.x();
+    double top = first.y();
+    double right = first.x();
+    double bottom = first.y();
+    for (std::size_t i = 1; i < vertices.size(); ++i) {
+        const gkVector<2> p = mapped(vertices[i]);
+        left = std::min(left, p.x());
+        top = std::min(top, p.y());
+        right = std::max(right, p.x());
+        bottom = std::max(bottom, p.y());
+    }
+    return gkRect::fromCorners({left, top}, {right, bottom});
+}
+
+template <class Vertices> gkRect encloseRect(const Vertices& vertices, const gkXform<2>& xform) {
+    // The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
+    if (gfRealEq(xform, gkXform<2>(), 1e-15)) return boxOf(vertices, [](const gkVector<2>& p) { return p; });
+    const gk_XformOps map(xform);
+    return boxOf(vertices, [&](const gkVector<2>& p) { return map.image(p); });
+}
+
+// Products with coordinates neither overflow nor underflow, and the sum of two has a direction.
+bool isModerateRow(const gkMatrix<2>& matrix, int row) {
+    const double size = std::fabs(matrix.element(row, 0)) + std::fabs(matrix.element(row, 1));
+    return size >= 1e-100 && size <= 1e100;
+}
 
 } // namespace
 
@@ -64,33 +129,34 @@ void gk_CircleOverFarthestPair(const std::vector<gkVector<2>>& points, gkCircle&
 }
 
 gkCircle gk_CircleAroundFirst(const std::vector<gkVector<2>>& points) {
-    double radius = 0.0;
+    // The root is monotone also as it rounds, so the greatest square has the greatest root.
+    double square = 0.0;
     for (const gkVector<2>& point : points) {
-        const double distance = gk_VectorOps::distance(points.front(), point);
-        if (distance > radius) radius = distance;
+        const gkVector<2> offset = point - points.front();
+        square = std::max(square, gk_VectorOps::dot(offset, offset));
     }
-    return gkCircle(points.front(), radius);
+    return gkCircle(points.front(), std::sqrt(square));
 }
 
 long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gkRadian& angle) {
-    const gk_Trig::SinCos unit = gk_Trig::sinCos(angle.toDouble());
-    const gkVector<2> direction(unit.cos, unit.sin);
-    const auto isAxis = [&](double x, double y) { return gfRealEq(direction, gkVector<2>(x, y), 1e-15); };
-    // Axis directions compare the coordinate itself, free of the rounding of sine and cosine.
-    if (isAxis(1.0, 0.0)) return firstGreatest(points, [](const gkVector<2>& v) { return v.x(); });
-    if (isAxis(-1.0, 0.0)) return firstGreatest(points, [](const gkVector<2>& v) { return -v.x(); });
-    if (isAxis(0.0, 1.0)) return firstGreatest(points, [](const gkVector<2>& v) { return v.y(); });
-    if (isAxis(0.0, -1.0)) return firstGreatest(points, [](const gkVector<2>& v) { return -v.y(); });
-    return firstGreatest(points, [&](const gkVector<2>& v) { return gk_VectorOps::dot(direction, v); });
+    return extremalVertex(All(points), angle);
+}
+
+long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+                       const gkRadian& angle) {
+    if (!std::isfinite(angle.toDouble())) return gk_ExtremalVertex(points, angle);
+    return extremalVertex(Some(points, outer), angle);
 }
 
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform) {
-    // The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
-    const bool identity = gfRealEq(xform, gkXform<2>(), 1e-15);
-    const auto mapped = [&](const gkVector<2>& point) { return identity ? point : xform * point; };
-    gkRect rect = pointBox(mapped(points.front()));
-    for (const gkVector<2>& point : points) rect = rect.enclose(pointBox(mapped(point)));
-    return rect;
+    return encloseRect(All(points), xform);
+}
+
+// Adding the translation is monotone also as it rounds, so the vertices that are farthest out before stay so.
+gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+                      const gkXform<2>& xform) {
+    const bool isModerate = isModerateRow(xform.matrix(), 0) && isModerateRow(xform.matrix(), 1);
+    return isModerate ? encloseRect(Some(points, outer), xform) : gk_EncloseRect(points, xform);
 }
 
 double gk_MedianSegmentLength(const std::vector<gkVector<2>>& points, bool closed) {
@@ -104,31 +170,4 @@ double gk_MedianSegmentLength(const std::vector<gkVector<2>>& points, bool close
     std::nth_element(lengths.begin(), middle, lengths.end(),
                      [](double a, double b) { return a < b || (!std::isnan(a) && std::isnan(b)); });
     return *middle;
-}
-
-std::size_t gk_ClosestVertex(const std::vector<gkVector<2>>& points, const gkVector<2>& p) {
-    double best = kInfinity;
-    std::size_t index = 0;
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        const double distance = gk_VectorOps::distance(points[i], p);
-        if (distance < best) {
-            best = distance;
-            index = i;
-        }
-    }
-    return index;
-}
-
-gkVector<2> gk_ClosestPoint(const std::vector<gkVector<2>>& points, bool closed, const gkVector<2>& p) {
-    gkVector<2> best;
-    double bestDistance = kInfinity;
-    gk_WalkSegments(points, closed, [&](const gkVector<2>& previous, const gkVector<2>& current) {
-        const gkLineSeg segment(previous, current);
-        const double distance = gk_LineOps::distToPoint(segment, p);
-        if (distance < bestDistance) {
-            bestDistance = distance;
-            best = gk_LineOps::closestPoint(segment, p);
-        }
-    });
-    return best;
 }

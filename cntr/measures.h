@@ -9,6 +9,7 @@
 #include "platform/core/shapes/rect.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 // Sum of the segments' lengths, in walking order.
@@ -27,19 +28,18 @@ gkCircle gk_CircleAroundFirst(const std::vector<gkVector<2>>& points);
 // Index of the vertex that lies furthest in a direction, the lowest index among equals; -1 when no vertex has a
 // score above the most negative double (NaN or infinite coordinates).
 long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gkRadian& angle);
+// The same, looking at outer vertices (cntr/search/outer_vertices.h) alone.
+long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+                       const gkRadian& angle);
 
 // Box of the vertices mapped by `xform`; `points` must not be empty.
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform);
+// The same, looking at outer vertices alone.
+gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+                      const gkXform<2>& xform);
 
 // Median of the segments' lengths, the upper of the two middle values for an even count; there must be a
 // segment.
 double gk_MedianSegmentLength(const std::vector<gkVector<2>>& points, bool closed);
-
-// Index of the vertex nearest to p, the lowest among equals; 0 when no distance is below infinity.
-std::size_t gk_ClosestVertex(const std::vector<gkVector<2>>& points, const gkVector<2>& p);
-
-// The point of the outline nearest to p, on the first of equally near segments; (0, 0) when no distance is
-// below infinity. Segments of length zero count as points.
-gkVector<2> gk_ClosestPoint(const std::vector<gkVector<2>>& points, bool closed, const gkVector<2>& p);
 
 #endif

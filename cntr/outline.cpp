@@ -1,15 +1,16 @@
 #include "cntr/outline.h"
 
 #include "cntr/contour_defs.h"
-#include "cntr/inside_count.h"
+#include "cntr/index.h"
 #include "cntr/measures.h"
 
 #include <utility>
 
-gk_Outline::gk_Outline(std::vector<gkVector<2>> points) : points_(std::move(points)) {}
+gk_Outline::gk_Outline(std::vector<gkVector<2>> points)
+    : points_(std::move(points)), size_(gk_SizeAsLoop(points_.size())) {}
 
 gk_Outline::gk_Outline(std::vector<gkVector<2>> points, const gkRect& box)
-    : points_(std::move(points)), box_(box) {}
+    : points_(std::move(points)), size_(gk_SizeAsLoop(points_.size())), box_(box) {}
 
 void gk_Outline::check() const {
     if (points_.size() < 2) throw gkContourDefs::EmptyContour(L"");
@@ -20,25 +21,34 @@ const gkRect& gk_Outline::box() {
     return *box_;
 }
 
+double gk_Outline::rayLength() {
+    if (!rayLength_) rayLength_ = 2.0 * gk_CircleAroundFirst(points_).radius();
+    return *rayLength_;
+}
+
 std::vector<gk_Crossing> gk_Outline::crossings(const gkLineSeg& seg, bool includeEnds) {
     check();
-    if (!box().overlaps(gk_SegmentBox(seg.p1(), seg.p2()))) return {};
-    if (!segments_.computed) segments_.build(points_, true);
-    std::vector<gk_Crossing> found = gk_Crossings(segments_, seg, includeEnds);
+    const gk_CrossingTest query(seg, includeEnds);
+    if (!gk_Box::of(box()).overlaps(query.box())) return {};
+    std::vector<gk_Crossing> found = search_.crossings(segments(), query);
     gk_OrderAlong(seg, found);
     return found;
 }
 
 std::vector<int> gk_Outline::near(const gkVector<2>& p, double tolerance) {
     check();
-    return grids_.near(points_, p, tolerance);
+    return search_.verticesWithin(points_, p, tolerance);
 }
 
 long gk_Outline::insideCount(const gkVector<2>& point, bool bothWays) {
     check();
     if (!box().within(point)) return 0;
-    if (!rayLength_) rayLength_ = 2.0 * gk_CircleAroundFirst(points_).radius();
-    return gk_InsideCount(points_, point, *rayLength_, bothWays, [&](const gkVector<2>& end) {
-        return static_cast<long>(crossings(gkLineSeg(point, end), false).size());
-    });
+    return search_.insideCount(segments(), point, rayLength(), bothWays);
+}
+
+bool gk_Outline::inside(const gkVector<2>& point) {
+    check();
+    if (!box().within(point)) return false;
+    const gk_Inside known = search_.inside(segments(), point, rayLength());
+    return known != gk_Inside::eUnknown ? known == gk_Inside::eInside : insideCount(point, false) % 2 == 1;
 }

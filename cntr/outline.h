@@ -3,8 +3,7 @@
 #define GK_CNTR_OUTLINE_H
 
 #include "cntr/crossings.h"
-#include "cntr/segment_cache.h"
-#include "cntr/vertex_grid.h"
+#include "cntr/search/outline_search.h"
 #include "platform/core/shapes/rect.h"
 
 #include <optional>
@@ -17,7 +16,8 @@ inline long gk_WrapOnce(long a, long m) {
     return a;
 }
 
-// Answers as a region of these vertices would. The queries throw gkContourDefs::EmptyContour below 2 vertices.
+// Answers as a region of these vertices would. The queries throw gkContourDefs::EmptyContour below 2 vertices,
+// the constructors BadParams for more than 2^30 - 1.
 class gk_Outline {
 public:
     explicit gk_Outline(std::vector<gkVector<2>> points);
@@ -25,27 +25,34 @@ public:
     gk_Outline(std::vector<gkVector<2>> points, const gkRect& box);
 
     const std::vector<gkVector<2>>& points() const { return points_; }
-    long size() const { return static_cast<long>(points_.size()); }
+    long size() const { return size_; }
     const gkVector<2>& operator[](long index) const { return points_[static_cast<std::size_t>(index)]; }
     // The vertex at an index that may run up to once past either end.
     const gkVector<2>& wrapped(long index) const { return (*this)[gk_WrapOnce(index, size())]; }
 
     // The crossings of a segment with the outline, ordered along the segment.
     std::vector<gk_Crossing> crossings(const gkLineSeg& seg, bool includeEnds);
+    // False when no vertex can be nearer than the tolerance.
+    bool mayHaveNear(const gkVector<2>& p, double tolerance) {
+        return gk_Box::of(box()).grownBy(2.0 * tolerance).holds(p);
+    }
     // Indices of the vertices nearer than the tolerance, in the vertex grid's order.
     std::vector<int> near(const gkVector<2>& p, double tolerance);
     long insideCount(const gkVector<2>& point, bool bothWays);
-    bool inside(const gkVector<2>& point) { return insideCount(point, false) % 2 == 1; }
+    // Whether insideCount(point, false) is odd.
+    bool inside(const gkVector<2>& point);
 
 private:
     void check() const;
     const gkRect& box();
+    double rayLength();
+    gk_Segments segments() const { return gk_Segments(points_, true); }
 
     std::vector<gkVector<2>> points_;
+    long size_;
     std::optional<gkRect> box_;
     std::optional<double> rayLength_;
-    gk_SegmentCache segments_;
-    gk_VertexGrids grids_;
+    gk_OutlineSearch search_;
 };
 
 #endif

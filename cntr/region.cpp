@@ -1,8 +1,5 @@
 #include "cntr/region.h"
 
-#include "cntr/segment_cache.h"
-#include "cntr/vertex_grid.h"
-
 #include <utility>
 
 gkRegion::gkRegion(const std::vector<gkVector<2>>& vertices, gkContourDefs::IntersectionMode mode)
@@ -20,11 +17,13 @@ gkRegion::gkRegion(const gkContour& contour, gkContourDefs::IntersectionMode mod
 
 gkRegion::gkRegion(const gkRegion& other)
     : gkPersistent(other), gkRepBase(other), gkContour(std::vector<gkVector<2>>(), true, 0), caches_() {
+    initializePointers();
     gkRegion::operator=(other);
 }
 
 // Both hooks are called as this class's own: a derived class's data do not exist yet.
 void gkRegion::initialize(gkContourDefs::IntersectionMode mode) {
+    initializePointers();
     gkRegion::cleanCacheInfo();
     gkContour::makeDataConsistentWithPoints();
     if (mode == gkContourDefs::eOuterHull) {
@@ -44,7 +43,7 @@ gkRegion& gkRegion::operator=(const gkRegion& other) {
     return *this;
 }
 
-gkRegion::~gkRegion() = default;
+gkRegion::~gkRegion() { deletePointers(); }
 
 bool gkRegion::operator==(const gkRegion& other) const { return gkContour::operator==(other); }
 

@@ -22,6 +22,9 @@
 /// Hiding: names declared here would hide the contour's queries of the same name, so the public ones are
 /// brought back.
 ///
+/// The contour is a virtual base, so a class derived from gkRegion makes it: vertices given to gkRegion's
+/// constructor alone are dropped, unless the derived constructor gives them to gkContour as well.
+///
 /// A region belongs to one thread at a time, even for reads, since queries fill caches. Regions that share
 /// holes or a kept repaired region may live on different threads only while nothing is asked of the shared
 /// object itself; asking with considerHoles fills the holes' caches.
@@ -114,11 +117,12 @@ public:
     /// which can fall short of the far side for points outside; edges within 1e-6 of the point are never
     /// counted, so a point on an edge is decided by the others. With `considerHoles` a point inside a hole
     /// (with its own holes considered) is outside; holes that contain each other in a ring throw BadParams.
-    /// Throws EmptyContour below 2 vertices. Cost: O(n log n).
+    /// Throws EmptyContour below 2 vertices. Cost: O(n), then a look
+    /// into a grid; O(n log n) for a point within about n / 10^5 of a vertex, or where the ray may end inside.
     bool inside(const gkVector<2>& point, bool considerHoles) const;
 
     /// Index of the outline's nearest vertex, as gkContour.
-    using gkContour::closestVertexIndex;
+    long closestVertexIndex(const gkVector<2>& point) const;
     /// Index of the nearest vertex of the outline (`holeIndex` -1) or, with `considerHoles`, of a strictly
     /// nearer hole, whose place in the list `holeIndex` then tells. Ties keep the outline, then the earlier
     /// hole.
@@ -199,10 +203,15 @@ private:
     static gk_Instantiator sExemplar;
 
     void initialize(gkContourDefs::IntersectionMode mode);
+    /// Nothing to do: a region owns nothing by pointer, its holes and repaired forms are shared by handle. Both
+    /// stand where gkContour and gkRegionSet have theirs.
+    void initializePointers() {}
+    void deletePointers() {}
     void passVersion0(gkArchive& archive);
     void checkHole(const gkRegion& hole) const;
     template <class Ask> std::vector<gkVector<2>> crossings(bool considerHoles, Ask ask) const;
     long insideCount(const gkVector<2>& point, bool bothWays) const;
+    bool insideOutline(const gkVector<2>& point) const;
     bool insideChained(const gkVector<2>& point, bool considerHoles, const Chain* outer) const;
     void repairOnce(gk_Kept<gkPtrHandle<gkRegion>>& kept, bool outerHull, gkRegion& result) const;
     void outerHullRegularize(gkRegion& result, bool outerHull) const;

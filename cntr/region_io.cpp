@@ -1,7 +1,6 @@
 // The region's archive record, both versions.
 #include "cntr/legacy_base.h"
 #include "cntr/region.h"
-#include "cntr/segment_cache.h"
 #include "platform/core/archive/archive.h"
 #include "platform/core/object/instantiator.h"
 

@@ -1,8 +1,8 @@
 // Area, centroid, moments and point queries of regions, with and without holes.
-#include "cntr/inside_count.h"
+#include "cntr/index.h"
 #include "cntr/moments.h"
 #include "cntr/region.h"
-#include "cntr/segment_cache.h"
+#include "cntr/search/outline_search.h"
 
 double gkRegion::area(bool considerHoles) const {
     checkEmptyContour();
@@ -73,10 +73,15 @@ struct gkRegion::Chain {
 
 long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
     if (!encloseRect(gkXform<2>()).within(point)) return 0;
-    const auto crossingsTowards = [&](const gkVector<2>& end) {
-        return static_cast<long>(intersections(gkLineSeg(point, end), false, false).size());
-    };
-    return gk_InsideCount(points(), point, diameter(gkContourDefs::eApproximate), bothWays, crossingsTowards);
+    const gk_Segments outline(points(), true);
+    return search().insideCount(outline, point, diameter(gkContourDefs::eApproximate), bothWays);
+}
+
+bool gkRegion::insideOutline(const gkVector<2>& point) const {
+    if (!encloseRect(gkXform<2>()).within(point)) return false;
+    const gk_Segments outline(points(), true);
+    const gk_Inside known = search().inside(outline, point, diameter(gkContourDefs::eApproximate));
+    return known != gk_Inside::eUnknown ? known == gk_Inside::eInside : insideCount(point, false) % 2 == 1;
 }
 
 bool gkRegion::inside(const gkVector<2>& point, bool considerHoles) const {
@@ -84,7 +89,7 @@ bool gkRegion::inside(const gkVector<2>& point, bool considerHoles) const {
 }
 
 bool gkRegion::insideChained(const gkVector<2>& point, bool considerHoles, const Chain* outer) const {
-    const bool within = insideCount(point, false) % 2 == 1;
+    const bool within = insideOutline(point);
     if (!within || !considerHoles) return within;
     // Shared holes can form a ring; following it would never end.
     if (outer && outer->holds(this)) throw gkContourDefs::BadParams(L"a region is a hole within its own holes");
@@ -93,6 +98,10 @@ bool gkRegion::insideChained(const gkVector<2>& point, bool considerHoles, const
         if (hole->insideChained(point, true, &chain)) return false;
     }
     return true;
+}
+
+long gkRegion::closestVertexIndex(const gkVector<2>& point) const {
+    return gkContour::closestVertexIndex(point);
 }
 
 long gkRegion::closestVertexIndex(const gkVector<2>& point, bool considerHoles, long& holeIndex) const {
@@ -106,7 +115,7 @@ long gkRegion::closestVertexIndex(const gkVector<2>& point, bool considerHoles, 
         if (distance < bestDistance) {
             best = vertex;
             bestDistance = distance;
-            holeIndex = static_cast<long>(i);
+            holeIndex = gk_IndexAs<long>(i);
         }
     }
     return best;

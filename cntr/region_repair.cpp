@@ -3,7 +3,6 @@
 #include "cntr/loops.h"
 #include "cntr/measures.h"
 #include "cntr/region.h"
-#include "cntr/segment_cache.h"
 #include "cntr/splice.h"
 #include "platform/system/assert.h"
 

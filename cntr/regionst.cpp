@@ -1,6 +1,7 @@
 #include "cntr/regionst.h"
 
 #include "cntr/index.h"
+#include "cntr/search/set_search.h"
 
 #include <utility>
 
@@ -12,9 +13,15 @@ std::vector<gkPtrHandle_const<gkRegion>> readOnly(const std::vector<gkPtrHandle<
 
 } // namespace
 
+gkRegionSet::Caches::Caches() = default;
+gkRegionSet::Caches::Caches(const Caches& other) = default;
+gkRegionSet::Caches& gkRegionSet::Caches::operator=(Caches&& other) noexcept = default;
+gkRegionSet::Caches::~Caches() = default;
+
 gkRegionSet::gkRegionSet(const std::vector<gkPtrHandle_const<gkRegion>>& regions,
                          gkContourDefs::IntersectionMode mode)
     : regions_(regions) {
+    initializePointers();
     gkRegionSet::cleanCacheInfo(); // what this class's own makeDataConsistentWithPoints does
     repair(mode);
 }
@@ -27,7 +34,8 @@ gkRegionSet::gkRegionSet(std::initializer_list<gkPtrHandle_const<gkRegion>> regi
                          gkContourDefs::IntersectionMode mode)
     : gkRegionSet(Regions(regions), mode) {}
 
-gkRegionSet::gkRegionSet(const gkRegionSet& other) : gkPersistent(other), gkRepBase(other), caches_() {
+gkRegionSet::gkRegionSet(const gkRegionSet& other) : gkPersistent(other), gkRepBase(other) {
+    initializePointers();
     gkRegionSet::operator=(other);
 }
 
@@ -41,7 +49,7 @@ gkRegionSet& gkRegionSet::operator=(const gkRegionSet& other) {
     return *this;
 }
 
-gkRegionSet::~gkRegionSet() = default;
+gkRegionSet::~gkRegionSet() { deletePointers(); }
 
 bool gkRegionSet::operator==(const gkRegionSet& other) const {
     if (regions_.size() != other.regions_.size()) return false;
@@ -85,7 +93,10 @@ void gkRegionSet::repair(gkContourDefs::IntersectionMode mode) {
     }
 }
 
-void gkRegionSet::setRegions(const std::vector<gkPtrHandle_const<gkRegion>>& regions) { regions_ = regions; }
+void gkRegionSet::setRegions(const std::vector<gkPtrHandle_const<gkRegion>>& regions) {
+    regions_ = regions;
+    caches_.search.reset();
+}
 
 void gkRegionSet::cachedVectorSize(long size) {
     cachedVectorSize_ = gk_FittingCachedVectorSize(size);
@@ -100,7 +111,13 @@ void gkRegionSet::makeDataConsistentWithPoints() { cleanCacheInfo(); }
 
 void gkRegionSet::makePointsConsistentWithData() { cleanCacheInfo(); }
 
-void gkRegionSet::deletePointers() { caches_.encloseRects.reset(); }
+void gkRegionSet::initializePointers() {
+    caches_.encloseRects.reset();
+    caches_.search.reset();
+}
+
+// The pointer frees what it owned, so to let go is to start anew.
+void gkRegionSet::deletePointers() { initializePointers(); }
 
 void gkRegionSet::cleanCacheInfo() {
     mutating();

@@ -10,6 +10,8 @@
 #include <initializer_list>
 #include <vector>
 
+class gk_SetSearch;
+
 /// A list of shared, read-only regions that is measured as a whole.
 ///
 /// | part | in == | copied | archived |
@@ -73,9 +75,11 @@ public:
     /// Central second moments of the whole, by gk_InertiaData's sum in order. Kept. Throws EmptyRegionSet, and
     /// what a region with holes throws with `considerHoles`.
     gkMatrix<2> inertiaMatrix(bool considerHoles) const;
-    /// Whether some region contains the point; false for the empty set.
+    /// Whether some region contains the point; false for the empty set. Keeps no answer, so a region changed
+    /// through another handle is seen.
     bool inside(const gkVector<2>& point, bool considerHoles) const;
-    /// Least of the regions' distances; NaN distances are passed over. Throws EmptyRegionSet.
+    /// Least of the regions' distances; NaN distances are passed over. Keeps no answer, as inside(). Throws
+    /// EmptyRegionSet.
     double distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles, bool zeroInside) const;
     /// Box of all outlines under the transform, kept as gkContour::encloseRect keeps its own. Throws
     /// EmptyRegionSet.
@@ -85,7 +89,7 @@ public:
     /// looked at. Kept.
     ///
     /// The flag is set before the computation: after an exception, later calls return the value reached by
-    /// then. Meant. Cost: quadratic in the number of regions and in their vertices.
+    /// then. Meant. Cost: that of the pairs of regions whose boxes overlap.
     bool isSelfIntersecting() const;
 
     /// Sets `result` to the set in which crossing regions are merged and each region is regularized; to this
@@ -124,7 +128,12 @@ private:
     using Regions = std::vector<gkPtrHandle_const<gkRegion>>;
     using RectMap = std::map<gkXform<2>, gkRect, gkContour::gsSTLLessPredicate>;
 
-    struct Caches {
+    struct GKCNTR_API Caches {
+        Caches();
+        Caches(const Caches& other);
+        Caches& operator=(Caches&& other) noexcept;
+        ~Caches();
+
         gk_Kept<gkVector<2>> centerOfMassWithHoles;
         gk_Kept<gkVector<2>> centerOfMass;
         gk_Kept<double> areaWithHoles;
@@ -135,6 +144,7 @@ private:
         gk_Kept<bool> selfIntersecting;
         gk_Kept<gkPtrHandle<gkRegionSet>> regularized;
         gk_Kept<gkPtrHandle<gkRegionSet>> outerHull;
+        gk_Owned<gk_SetSearch> search; // not a result: it follows the list, and members' changes as well
     };
 
     static gkPersistent* make();
@@ -143,6 +153,8 @@ private:
     void repair(gkContourDefs::IntersectionMode mode);
     void repairOnce(gk_Kept<gkPtrHandle<gkRegionSet>>& kept, bool outerHull, gkRegionSet& result) const;
     void outerHullRegularize(gkRegionSet& result, bool outerHull) const;
+    /// The map of boxes, which the set owns by pointer, is absent until the first encloseRect.
+    void initializePointers();
     void deletePointers();
 
     Regions regions_;

@@ -1,9 +1,8 @@
 #include "cntr/bounded_map.h"
 #include "cntr/moments.h"
 #include "cntr/regionst.h"
+#include "cntr/search/set_search.h"
 #include "platform/core/math/real.h"
-
-#include <limits>
 
 double gkRegionSet::area(bool considerHoles) const {
     gk_Kept<double>& kept = considerHoles ? caches_.areaWithHoles : caches_.area;
@@ -55,21 +54,13 @@ gkMatrix<2> gkRegionSet::inertiaMatrix(bool considerHoles) const {
 }
 
 bool gkRegionSet::inside(const gkVector<2>& point, bool considerHoles) const {
-    for (const auto& region : regions_) {
-        if (region->inside(point, considerHoles)) return true;
-    }
-    return false;
+    return caches_.search.made().inside(regions_, point, considerHoles);
 }
 
 double gkRegionSet::distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles,
                                 bool zeroInside) const {
     checkEmptyRegionSet();
-    double least = std::numeric_limits<double>::infinity();
-    for (const auto& region : regions_) {
-        const double distance = region->distToPoint(point, verticesOnly, considerHoles, zeroInside);
-        if (least > distance) least = distance;
-    }
-    return least;
+    return caches_.search.made().distToPoint(regions_, point, verticesOnly, considerHoles, zeroInside);
 }
 
 gkRect gkRegionSet::encloseRect(const gkXform<2>& xform) const {

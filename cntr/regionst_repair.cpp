@@ -1,5 +1,6 @@
 #include "cntr/region_merge.h"
 #include "cntr/regionst.h"
+#include "cntr/search/set_search.h"
 
 bool gkRegionSet::isSelfIntersecting() const {
     if (regions_.empty()) return false;
@@ -12,11 +13,7 @@ bool gkRegionSet::isSelfIntersecting() const {
     for (const auto& region : regions_) {
         if (region->isSelfIntersecting()) kept.value = true;
     }
-    for (std::size_t i = 0; i + 1 < regions_.size(); ++i) {
-        for (std::size_t j = i + 1; j < regions_.size(); ++j) {
-            if (!regions_[i]->intersections(*regions_[j]).empty()) return kept.value = true;
-        }
-    }
+    if (caches_.search.made().anyTwoMeet(regions_)) kept.value = true;
     return kept.value;
 }
 
@@ -42,25 +39,43 @@ void gkRegionSet::repairOnce(gk_Kept<gkPtrHandle<gkRegionSet>>& kept, bool outer
     result = *repaired;
 }
 
+namespace {
+
+// A region and the box of its vertices, if they are measurable.
+struct Merging {
+    explicit Merging(const gkPtrHandle_const<gkRegion>& handle)
+        : region(handle), box(handle.isNull() ? std::nullopt : gk_OwnBox(*handle)) {}
+
+    gkPtrHandle_const<gkRegion> region;
+    std::optional<gk_Box> box;
+};
+
+// Segments outside the box that the first keeps are not looked at; it keeps the box either way.
+bool cross(const Merging& a, const Merging& b) {
+    if (b.box && !gk_Box::of(a.region->encloseRect(gkXform<2>())).overlaps(*b.box)) return false;
+    return !a.region->intersections(*b.region, false).empty();
+}
+
+} // namespace
+
 void gkRegionSet::outerHullRegularize(gkRegionSet& result, bool outerHull) const {
-    using Handle = gkPtrHandle_const<gkRegion>;
     checkEmptyRegionSet();
-    Regions list(regions_);
-    gk_MergeInOnePass(
-        list, [](const Handle& a, const Handle& b) { return !a->intersections(*b, false).empty(); },
-        [](const Handle& a, const Handle& b) {
-            const gkPtrHandle<gkRegion> spliced(new gkRegion);
-            a->splice(*b, *spliced);
-            return Handle(spliced);
-        });
-    for (Handle& region : list) {
+    std::vector<Merging> merging(regions_.begin(), regions_.end());
+    gk_MergeInOnePass(merging, cross, [](const Merging& a, const Merging& b) {
+        const gkPtrHandle<gkRegion> spliced(new gkRegion);
+        a.region->splice(*b.region, *spliced);
+        return Merging(spliced);
+    });
+    Regions list;
+    list.reserve(merging.size());
+    for (const Merging& merged : merging) {
         const gkPtrHandle<gkRegion> repaired(new gkRegion);
         if (outerHull) {
-            region->outerHull(*repaired);
+            merged.region->outerHull(*repaired);
         } else {
-            region->regularize(*repaired);
+            merged.region->regularize(*repaired);
         }
-        region = repaired;
+        list.push_back(repaired);
     }
     result = gkRegionSet(list, gkContourDefs::eKeepIntersections);
 }

@@ -1,8 +1,9 @@
-// Kept results against changes: every changing method x every kept result, directly and through copies. The two
-// tables below are the whole of both, so that no pair is forgotten.
+// Kept results against changes: every changing method x every kept result, directly and through copies.
+// The tables of changes below and of results in tests/support are the whole of both, so that no pair is
+// forgotten.
 #include "cntr/region.h"
 #include "platform/core/archive/archive_memory.h"
-#include "tests/support/answer.h"
+#include "tests/support/kept_results.h"
 #include "tests/support/shapes.h"
 
 #include <gtest/gtest.h>
@@ -17,57 +18,12 @@ namespace {
 struct Reach : gkContour {
     static constexpr auto setPointsOf = &Reach::setPoints;
     static constexpr auto cleanCacheInfoOf = &Reach::cleanCacheInfo;
-    static constexpr auto lineSegsOf = &Reach::lineSegs;
-    static constexpr auto validLineOf = &Reach::validLine;
-    static constexpr auto medianFeatureSizeOf = &Reach::medianFeatureSize;
 };
 
 gkXform<2> shear() { return gkXform<2>(gkMatrix<2>(1.0, 0.5, -0.25, 2.0), {3.0, -1.0}); }
 
-Points hullOf(const gkContour& contour) {
-    gkRegion hull;
-    contour.convexHull(hull);
-    return hull.points();
-}
-
-struct KeptResult {
-    const char* name;
-    Answer (*ask)(const gkContour&);
-};
-
-const KeptResult kKept[] = {
-    {"length", [](const gkContour& c) { return answer([&] { return c.length(); }); }},
-    {"meanPosition", [](const gkContour& c) { return answer([&] { return c.meanPosition(); }); }},
-    {"encloseCircle(eExact)",
-     [](const gkContour& c) { return answer([&] { return c.encloseCircle(gkContourDefs::eExact); }); }},
-    {"encloseCircle(eApproximate)",
-     [](const gkContour& c) { return answer([&] { return c.encloseCircle(gkContourDefs::eApproximate); }); }},
-    {"extremalVertexIndex",
-     [](const gkContour& c) { return answer([&] { return c.extremalVertexIndex(gkRadian(0.75)); }); }},
-    {"encloseRect", [](const gkContour& c) { return answer([&] { return c.encloseRect(shear()); }); }},
-    {"encloseRect of the identity",
-     [](const gkContour& c) { return answer([&] { return c.encloseRect(gkXform<2>()); }); }},
-    {"convexHull", [](const gkContour& c) { return answer([&] { return hullOf(c); }); }},
-    {"fitEllipse",
-     [](const gkContour& c) {
-         gkEllipse ellipse;
-         double error = 0.0;
-         Answer result = answer([&] {
-             c.fitEllipse(ellipse, error);
-             return ellipse;
-         });
-         result.add(error);
-         return result;
-     }},
-    {"lineSegs", [](const gkContour& c) { return answer([&] { return (c.*Reach::lineSegsOf)(); }); }},
-    {"validLine", [](const gkContour& c) { return answer([&] { return (c.*Reach::validLineOf)(); }); }},
-    {"isSelfIntersecting", [](const gkContour& c) { return answer([&] { return c.isSelfIntersecting(); }); }},
-    {"medianFeatureSize",
-     [](const gkContour& c) { return answer([&] { return (c.*Reach::medianFeatureSizeOf)(); }); }},
-    {"vertexIndex", [](const gkContour& c) { return answer([&] {
-                                                 return c.vertexIndex({1.0, 1.0}, 2.5);
-                                             }); }},
-};
+using KeptResult = Kept<gkContour>;
+const std::vector<KeptResult>& kKept = keptOfContours();
 
 // Two outlines that differ in every kept result: the first crosses itself when closed and repeats a vertex.
 const char* const kBefore = "0 0, 4 4, 4 4, 4 0.5, 0 3.5, -2 2, 1 1";

@@ -1,5 +1,5 @@
 // Segment numbering, nearest points and vertices, the vertex grid, the median segment length.
-#include "cntr/vertex_grid.h"
+#include "cntr/search/vertex_cells.h"
 #include "platform/system/assert.h"
 #include "tests/support/shapes.h"
 
@@ -121,12 +121,12 @@ TEST(VertexIndex, AnswersCellByCellNotSorted) {
 }
 
 TEST(VertexIndex, KeepsOneGridPerTolerance) {
-    gk_VertexGrids grids;
+    gk_VertexCells cells;
     const Points list = points("0 0, 3 4, 1 0");
-    grids.near(list, {0, 0}, 1.0);
-    grids.near(list, {0, 0}, 2.0);
-    grids.near(list, {0, 0}, 1.0);
-    EXPECT_EQ(2u, grids.count());
+    cells.near(list, nullptr, {0, 0}, 1.0);
+    cells.near(list, nullptr, {0, 0}, 2.0);
+    cells.near(list, nullptr, {0, 0}, 1.0);
+    EXPECT_EQ(2u, cells.count());
 }
 
 TEST(VertexIndex, MarksTheContourChangedOnlyWhenItBuildsAGrid) {

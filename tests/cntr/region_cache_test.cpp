@@ -1,8 +1,7 @@
 // Kept results of regions against changes: every changing method x every kept result, directly, through copies
-// and through handles to shared holes. The two tables below are the whole of both. (What the contour part keeps
-// has a table of its own.)
-#include "tests/support/answer.h"
+// and through handles to shared holes. (What the contour part keeps has a table of its own.)
 #include "tests/support/archived.h"
+#include "tests/support/cache_laws.h"
 #include "tests/support/regions.h"
 
 #include <gtest/gtest.h>
@@ -15,40 +14,6 @@ namespace {
 struct Reach : gkContour {
     static constexpr auto setPointsOf = &Reach::setPoints;
     static constexpr auto cleanCacheInfoOf = &Reach::cleanCacheInfo;
-};
-
-struct KeptResult {
-    const char* name;
-    Answer (*ask)(const gkRegion&);
-};
-
-Answer described(const gkRegion& region) {
-    Answer result;
-    result.add(region.points());
-    result.add(static_cast<long>(region.holes().size()));
-    result.add(static_cast<long>(region.label()));
-    return result;
-}
-
-Answer repaired(const gkRegion& region, void (gkRegion::*repair)(gkRegion&) const) {
-    gkRegion result;
-    (region.*repair)(result);
-    return described(result);
-}
-
-const KeptResult kKept[] = {
-    {"area(false)", [](const gkRegion& r) { return answer([&] { return r.area(false); }); }},
-    {"area(true)", [](const gkRegion& r) { return answer([&] { return r.area(true); }); }},
-    {"centerOfMass(false)", [](const gkRegion& r) { return answer([&] { return r.centerOfMass(false); }); }},
-    {"centerOfMass(true)", [](const gkRegion& r) { return answer([&] { return r.centerOfMass(true); }); }},
-    {"inertiaMatrix(false)", [](const gkRegion& r) { return answer([&] { return r.inertiaMatrix(false); }); }},
-    {"inertiaMatrix(true)", [](const gkRegion& r) { return answer([&] { return r.inertiaMatrix(true); }); }},
-    {"regularize", [](const gkRegion& r) { return repaired(r, &gkRegion::regularize); }},
-    {"outerHull", [](const gkRegion& r) { return repaired(r, &gkRegion::outerHull); }},
-    {"inside", [](const gkRegion& r) { return answer([&] {
-                                           return r.inside({1, 4.5}, true);
-                                       }); }},
-    {"length", [](const gkRegion& r) { return answer([&] { return r.length(); }); }},
 };
 
 // Outlines that cross themselves and differ in every kept result, with a hole each that meets neither.
@@ -69,12 +34,7 @@ gkRegion after() {
     return region;
 }
 
-struct Change {
-    const char* name;
-    void (*apply)(gkRegion&);
-};
-
-const Change kChanges[] = {
+const std::vector<Change<gkRegion>> kChanges = {
     {"points(v)", [](gkRegion& r) { r.points(points(kAfter)); }},
     {"setPoints", [](gkRegion& r) { (r.*Reach::setPointsOf)(points(kAfter)); }},
     {"cleanCacheInfo", [](gkRegion& r) { (r.*Reach::cleanCacheInfoOf)(); }},
@@ -99,7 +59,7 @@ const Change kChanges[] = {
     {"forgetHandles", [](gkRegion& r) { r.forgetHandles(); }},
 };
 
-const Change kNoChanges[] = {
+const std::vector<Change<gkRegion>> kNoChanges = {
     {"label", [](gkRegion& r) { r.label(77); }},
     {"cachedVectorSize", [](gkRegion& r) { r.cachedVectorSize(9); }},
     {"isClosed(true)", [](gkRegion& r) { r.isClosed(true); }},
@@ -128,150 +88,55 @@ gkRegion fresh(const gkRegion& region) {
     return copy;
 }
 
-// The answers to the first two questions; those for the centre with holes differ.
-std::vector<Answer> twice(const gkRegion& region, const KeptResult& kept) {
-    std::vector<Answer> answers;
-    for (int i = 0; i < 2; ++i) answers.push_back(kept.ask(region));
-    return answers;
-}
-
-template <std::size_t N, class Check> void everyPair(const Change (&changes)[N], Check check) {
-    for (const Change& change : changes) {
-        for (const KeptResult& kept : kKept) {
-            SCOPED_TRACE(std::string(change.name) + " x " + kept.name);
-            check(change, kept);
-        }
-    }
-}
+const CacheTable<gkRegion> kTable = {keptOfRegions(), kChanges, kNoChanges,           &before,
+                                     &after,          &fresh,   "inertiaMatrix(true)"};
 
 } // namespace
 
 TEST(RegionCache, TheTwoRegionsCrossThemselvesAndDifferInEveryKeptResult) {
     EXPECT_TRUE(before().isSelfIntersecting()); // or the repairs keep nothing
     EXPECT_TRUE(after().isSelfIntersecting());
-    for (const KeptResult& kept : kKept) {
-        if (std::string(kept.name) == "inertiaMatrix(true)") continue; // refused for both
-        EXPECT_NE(kept.ask(before()), kept.ask(after())) << kept.name;
-    }
+    kTable.theTwoDifferInEveryResult();
 }
 
-TEST(RegionCache, EveryResultIsKept) {
-    for (const KeptResult& kept : kKept) {
-        if (std::string(kept.name) == "inertiaMatrix(true)") continue; // never computed
-        const gkRegion region = before();
-        region.clearChanged();
-        EXPECT_TRUE(computes(region, kept.ask)) << kept.name;
-        EXPECT_FALSE(computes(region, kept.ask)) << kept.name;
-    }
-}
+TEST(RegionCache, EveryResultIsKept) { kTable.everyResultIsKept(); }
 
-TEST(RegionCache, EveryChangeForgetsEveryKeptResult) {
-    everyPair(kChanges, [](const Change& change, const KeptResult& kept) {
-        gkRegion region = before();
-        twice(region, kept);
-        change.apply(region);
-        EXPECT_EQ(twice(fresh(region), kept), twice(region, kept));
-    });
-}
+TEST(RegionCache, EveryChangeForgetsEveryKeptResult) { kTable.everyChangeForgetsEveryResult(); }
 
-TEST(RegionCache, EveryChangeForgetsAllResultsTogether) {
-    for (const Change& change : kChanges) {
-        SCOPED_TRACE(change.name);
-        gkRegion region = before();
-        for (const KeptResult& kept : kKept) kept.ask(region);
-        change.apply(region);
-        const gkRegion expected = fresh(region);
-        for (const KeptResult& kept : kKept) EXPECT_EQ(twice(expected, kept), twice(region, kept)) << kept.name;
-    }
-}
+TEST(RegionCache, EveryChangeForgetsAllResultsTogether) { kTable.everyChangeForgetsAllResultsTogether(); }
 
-TEST(RegionCache, WhatChangesNoGeometryKeepsEveryResult) {
-    everyPair(kNoChanges, [](const Change& change, const KeptResult& kept) {
-        gkRegion region = before();
-        const Answer second = twice(region, kept).back();
-        change.apply(region);
-        EXPECT_FALSE(computes(region, kept.ask));
-        EXPECT_EQ(second, kept.ask(region));
-    });
-}
+TEST(RegionCache, WhatChangesNoGeometryKeepsEveryResult) { kTable.whatIsNoChangeKeepsEveryResult(); }
 
-TEST(RegionCache, ACopyAnswersWithoutComputing) {
-    for (const KeptResult& kept : kKept) {
-        SCOPED_TRACE(kept.name);
-        const gkRegion region = before();
-        const Answer second = twice(region, kept).back();
-        const gkRegion copy(region);
-        EXPECT_FALSE(computes(copy, kept.ask));
-        EXPECT_EQ(second, kept.ask(copy));
-        gkRegion target = after();
-        twice(target, kept);
-        target = region;
-        EXPECT_FALSE(computes(target, kept.ask));
-        EXPECT_EQ(second, kept.ask(target));
-    }
-}
+TEST(RegionCache, ACopyAnswersWithoutComputing) { kTable.aCopyAnswersWithoutComputing(); }
 
 TEST(RegionCache, AnAssignedRegionForgetsResultsTheSourceHasNot) {
-    for (const KeptResult& kept : kKept) {
-        SCOPED_TRACE(kept.name);
-        gkRegion target = before();
-        twice(target, kept);
-        const gkRegion source = after();
-        target = source;
-        EXPECT_EQ(twice(fresh(source), kept), twice(target, kept));
-    }
+    kTable.anAssignedOneForgetsResultsTheSourceHasNot();
 }
 
-TEST(RegionCache, ChangingTheOriginalLeavesACopy) {
-    everyPair(kChanges, [](const Change& change, const KeptResult& kept) {
-        gkRegion region = before();
-        const Answer second = twice(region, kept).back();
-        const gkRegion copy(region);
-        change.apply(region);
-        EXPECT_FALSE(computes(copy, kept.ask));
-        EXPECT_EQ(second, kept.ask(copy));
-        EXPECT_EQ(twice(fresh(region), kept), twice(region, kept));
-    });
-}
+TEST(RegionCache, ChangingTheOriginalLeavesACopy) { kTable.changingTheOriginalLeavesACopy(); }
 
-TEST(RegionCache, ChangingACopyLeavesTheOriginal) {
-    everyPair(kChanges, [](const Change& change, const KeptResult& kept) {
-        const gkRegion region = before();
-        const Answer second = twice(region, kept).back();
-        gkRegion copy(region);
-        change.apply(copy);
-        EXPECT_EQ(twice(fresh(copy), kept), twice(copy, kept));
-        EXPECT_FALSE(computes(region, kept.ask));
-        EXPECT_EQ(second, kept.ask(region));
-    });
-}
+TEST(RegionCache, ChangingACopyLeavesTheOriginal) { kTable.changingACopyLeavesTheOriginal(); }
 
 TEST(RegionCache, ACopyMadeAfterTheChangeKnowsNothingOfBefore) {
-    everyPair(kChanges, [](const Change& change, const KeptResult& kept) {
-        gkRegion region = before();
-        twice(region, kept);
-        change.apply(region);
-        const gkRegion copy(region);
-        EXPECT_EQ(twice(fresh(region), kept), twice(copy, kept));
-    });
+    kTable.aCopyMadeAfterTheChangeKnowsNothingOfBefore();
 }
 
 TEST(RegionCache, AChangedHoleIsNotSeenUntilTheRegionForgets) {
-    for (const KeptResult& kept : kKept) {
-        if (std::string(kept.name) == "inside") continue; // keeps no answer of a hole
+    for (const Kept<gkRegion>& kept : kTable.kept) {
+        if (kept.name == "inside") continue; // keeps no answer of a hole
         SCOPED_TRACE(kept.name);
         const Shared hole = shared(kHoleBefore);
         gkRegion region(points(kBefore));
         gkRegion other(points(kBefore));
         region.holes({hole});
         other.holes({hole});
-        const Answer second = twice(region, kept).back();
+        const Answer second = askedTwice(region, kept).back();
         hole->points(points("13 7, 15 7, 15 9.5"));
         EXPECT_EQ(second, kept.ask(region));
         // The other region with that hole had not been asked yet.
-        EXPECT_EQ(twice(fresh(other), kept), twice(other, kept));
+        EXPECT_EQ(askedTwice(fresh(other), kept), askedTwice(other, kept));
         (region.*Reach::cleanCacheInfoOf)();
-        EXPECT_EQ(twice(fresh(region), kept), twice(region, kept));
+        EXPECT_EQ(askedTwice(fresh(region), kept), askedTwice(region, kept));
     }
 }
 

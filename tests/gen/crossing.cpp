@@ -1,5 +1,6 @@
 // Outlines that cross or touch themselves.
 #include "tests/gen/kinds.h"
+#include "tests/gen/places.h"
 
 namespace {
 
@@ -27,8 +28,7 @@ Points lissajous(Random& random) {
 Points randomPolygon(Random& random) {
     const int count = random.integer(3, 24);
     Points points;
-    for (int i = 0; i < count; ++i)
-        points.emplace_back(random.between(-10.0, 10.0), random.between(-10.0, 10.0));
+    for (int i = 0; i < count; ++i) points.push_back(place(random, 10.0));
     return points;
 }
 
@@ -51,7 +51,8 @@ Points touching(Random& random) {
     Points points;
     for (int i = 0; i < count; ++i) {
         points.push_back(at);
-        at += gkVector<2>(random.integer(-2, 2), random.integer(-2, 2)) * (random.chance(0.2) ? 0.5 : 1.0);
+        const double unit = random.chance(0.2) ? 0.5 : 1.0;
+        at += latticePlace(random, 2) * unit;
     }
     return points;
 }

@@ -1,5 +1,6 @@
 // Shapes at other sizes and places, shapes of few vertices, and vertices that are no numbers.
 #include "tests/gen/kinds.h"
+#include "tests/gen/places.h"
 
 #include <limits>
 
@@ -65,9 +66,9 @@ Points enormous(Random& random) { return scaled(ordinary(random), 1e150); }
 // An ordinary size at a place where coordinates have few digits left for it.
 Points farAway(Random& random) {
     const double offset = random.chance(0.5) ? 1e7 : 1e12;
-    const gkVector<2> place(offset * random.between(-1.0, 1.0), offset * random.between(-1.0, 1.0));
+    const gkVector<2> moved = place(random, 1.0) * offset;
     Points points = ordinary(random);
-    for (gkVector<2>& p : points) p += place;
+    for (gkVector<2>& p : points) p += moved;
     return points;
 }
 
@@ -75,7 +76,7 @@ Points farAway(Random& random) {
 Points few(Random& random) {
     const int count = random.integer(0, 4);
     Points points;
-    for (int i = 0; i < count; ++i) points.emplace_back(random.integer(-1, 1), random.integer(-1, 1));
+    for (int i = 0; i < count; ++i) points.push_back(latticePlace(random, 1));
     return points;
 }
 

@@ -1,5 +1,6 @@
 // Vertices on a lattice, on edges, on one line and on each other: ties everywhere.
 #include "tests/gen/kinds.h"
+#include "tests/gen/places.h"
 
 namespace gen {
 
@@ -21,7 +22,7 @@ Points latticeOutline(Random& random) {
 Points latticePoints(Random& random) {
     const int count = random.integer(3, 30);
     Points points;
-    for (int i = 0; i < count; ++i) points.emplace_back(random.integer(-4, 4), random.integer(-4, 4));
+    for (int i = 0; i < count; ++i) points.push_back(latticePlace(random, 4));
     return points;
 }
 
@@ -67,8 +68,8 @@ Points repeated(Random& random) {
 // All vertices on one line, in any order.
 Points collinear(Random& random) {
     const int count = random.integer(2, 20);
-    const gkVector<2> direction(random.integer(-3, 3), random.integer(-3, 3));
-    const gkVector<2> start(random.integer(-3, 3), random.integer(-3, 3));
+    const gkVector<2> direction = latticePlace(random, 3);
+    const gkVector<2> start = latticePlace(random, 3);
     Points points;
     for (int i = 0; i < count; ++i) points.push_back(start + direction * (random.integer(-16, 16) / 4.0));
     return points;
@@ -76,8 +77,8 @@ Points collinear(Random& random) {
 
 // All vertices in one place.
 Points coincident(Random& random) {
-    const gkVector<2> place(random.between(-9.0, 9.0), random.between(-9.0, 9.0));
-    return Points(static_cast<std::size_t>(random.integer(2, 9)), place);
+    const gkVector<2> where = place(random, 9.0);
+    return Points(static_cast<std::size_t>(random.integer(2, 9)), where);
 }
 
 } // namespace gen

@@ -1,5 +1,7 @@
 #include "tests/gen/probes.h"
 
+#include "tests/gen/places.h"
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -21,8 +23,9 @@ Box boxOf(const Points& points) {
     Box box;
     for (const gkVector<2>& p : points) {
         if (!std::isfinite(p.x()) || !std::isfinite(p.y())) continue;
-        box.low = gkVector<2>(std::fmin(box.low.x(), p.x()), std::fmin(box.low.y(), p.y()));
-        box.high = gkVector<2>(std::fmax(box.high.x(), p.x()), std::fmax(box.high.y(), p.y()));
+        // Not fmin and fmax, which of two zeros may return either.
+        box.low = gkVector<2>(std::min(box.low.x(), p.x()), std::min(box.low.y(), p.y()));
+        box.high = gkVector<2>(std::max(box.high.x(), p.x()), std::max(box.high.y(), p.y()));
     }
     if (!(box.low.x() <= box.high.x())) return Box{{0.0, 0.0}, {1.0, 1.0}};
     return box;
@@ -33,7 +36,8 @@ gkVector<2> ulpBeside(Random& random, const gkVector<2>& p) {
         const int way = random.integer(-1, 1);
         return way == 0 ? v : std::nextafter(v, way * kInfinity);
     };
-    return gkVector<2>(step(p.x()), step(p.y()));
+    const double y = step(p.y());
+    return gkVector<2>(step(p.x()), y);
 }
 
 // An edge of the shape, the closing one included.
@@ -49,9 +53,7 @@ gkVector<2> leftOf(const gkLineSeg& seg) {
     return std::isfinite(along.x()) ? gkVector<2>(-along.y(), along.x()) : gkVector<2>(0.0, 1.0);
 }
 
-gkVector<2> inside(Random& random, const Box& box) {
-    return gkVector<2>(random.between(box.low.x(), box.high.x()), random.between(box.low.y(), box.high.y()));
-}
+gkVector<2> inside(Random& random, const Box& box) { return gen::placeBetween(random, box.low, box.high); }
 
 // Segments that decide at the touching distance: across the edge from exactly 1e-6 (or an ulp beside) before
 // it, and across its line exactly that far beyond its start. Exact where the edge lies along an axis through
@@ -120,7 +122,10 @@ std::vector<gkLineSeg> querySegments(const Points& points, std::uint64_t seed) {
     std::vector<gkLineSeg> list = {gkLineSeg(box.low - size, box.high + size),
                                    gkLineSeg(box.high + size, box.high + size * 2.0),
                                    gkLineSeg(box.low, box.low)};
-    for (int i = 0; i < 6; ++i) list.emplace_back(inside(random, box), inside(random, box));
+    for (int i = 0; i < 6; ++i) {
+        const gkVector<2> end = inside(random, box);
+        list.emplace_back(inside(random, box), end);
+    }
     for (int i = 0; i < 4; ++i) {
         const double y = random.between(box.low.y(), box.high.y());
         list.emplace_back(gkVector<2>(box.low.x() - 1.0, y), gkVector<2>(box.high.x() + 1.0, y));

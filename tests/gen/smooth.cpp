@@ -1,5 +1,6 @@
 // Stars, combs, spirals and needles.
 #include "tests/gen/kinds.h"
+#include "tests/gen/places.h"
 
 namespace {
 
@@ -18,7 +19,7 @@ Points star(Random& random) {
     const double roughness = random.between(0.0, 0.9);
     const double radius = random.between(1.0, 100.0);
     const double turn = random.chance(0.5) ? kTurn : -kTurn;
-    const gkVector<2> center(random.between(-50.0, 50.0), random.between(-50.0, 50.0));
+    const gkVector<2> center = place(random, 50.0);
     Points points;
     for (int i = 0; i < count; ++i) {
         points.push_back(center + polar(radius * (1.0 - roughness * random.unit()), turn * i / count));
@@ -61,7 +62,7 @@ Points needle(Random& random) {
     const gkRadian direction(random.between(-kTurn, kTurn));
     const gkVector<2> along(random.between(100.0, 1000.0), direction);
     const gkVector<2> across(random.between(1e-9, 1e-3), direction + gkRadian(kTurn / 4.0));
-    const gkVector<2> start(random.between(-9.0, 9.0), random.between(-9.0, 9.0));
+    const gkVector<2> start = place(random, 9.0);
     const int steps = random.integer(1, 12);
     Points points;
     for (int i = 0; i <= steps; ++i) points.push_back(start + along * (static_cast<double>(i) / steps));

@@ -1,3 +1,4 @@
+#include "tests/gen/places.h"
 #include "tests/gen/tangles.h"
 
 #include <algorithm>
@@ -7,8 +8,9 @@ namespace {
 using gen::Points;
 using gen::Random;
 
-Points rectangle(double x, double y, double width, double height) {
-    return {{x, y}, {x + width, y}, {x + width, y + height}, {x, y + height}};
+Points rectangle(const gkVector<2>& corner, const gkVector<2>& size) {
+    const gkVector<2> far = corner + size;
+    return {corner, {far.x(), corner.y()}, far, {corner.x(), far.y()}};
 }
 
 Points anyStart(Points points, Random& random) {
@@ -29,17 +31,17 @@ namespace gen {
 
 // Of the same size, the second moved by half to one and a half sides.
 std::vector<Points> twoSquares(Random& random) {
-    const gkVector<2> by(random.between(-5.0, 5.0), random.between(-5.0, 5.0));
-    return {anyStart(rectangle(0.0, 0.0, 4.0, 4.0), random),
-            anyStart(moved(rectangle(0.0, 0.0, 4.0, 4.0), by), random)};
+    const gkVector<2> by = place(random, 5.0);
+    return {anyStart(rectangle({0.0, 0.0}, {4.0, 4.0}), random),
+            anyStart(moved(rectangle({0.0, 0.0}, {4.0, 4.0}), by), random)};
 }
 
 std::vector<Points> rectangles(Random& random) {
     std::vector<Points> set;
     for (int i = random.integer(2, 6); i > 0; --i) {
-        set.push_back(anyStart(rectangle(random.between(-8.0, 8.0), random.between(-8.0, 8.0),
-                                         random.between(1.0, 8.0), random.between(1.0, 8.0)),
-                               random));
+        const gkVector<2> size = placeBetween(random, {1.0, 1.0}, {8.0, 8.0});
+        const gkVector<2> corner = place(random, 8.0);
+        set.push_back(anyStart(rectangle(corner, size), random));
     }
     return set;
 }
@@ -48,9 +50,10 @@ std::vector<Points> rectangles(Random& random) {
 std::vector<Points> latticeRectangles(Random& random) {
     std::vector<Points> set;
     for (int i = random.integer(2, 5); i > 0; --i) {
-        set.push_back(anyStart(
-            rectangle(random.integer(-4, 4), random.integer(-4, 4), random.integer(1, 5), random.integer(1, 5)),
-            random));
+        const int height = random.integer(1, 5);
+        const int width = random.integer(1, 5);
+        const gkVector<2> corner = latticePlace(random, 4);
+        set.push_back(anyStart(rectangle(corner, gkVector<2>(width, height)), random));
     }
     return set;
 }
@@ -66,8 +69,9 @@ std::vector<Points> chain(Random& random) {
     std::vector<Points> set;
     const int links = random.integer(3, 7);
     for (int i = 0; i < links; ++i) {
-        set.push_back(
-            anyStart(rectangle(3.0 * i, random.between(-1.0, 1.0), 4.0, random.between(2.0, 4.0)), random));
+        const double height = random.between(2.0, 4.0);
+        const double y = random.between(-1.0, 1.0);
+        set.push_back(anyStart(rectangle({3.0 * i, y}, {4.0, height}), random));
     }
     for (std::size_t i = set.size(); i > 1; --i) std::swap(set[i - 1], set[random.index(i)]);
     return set;
@@ -78,7 +82,9 @@ std::vector<Points> tangledSet(Random& random) {
     std::vector<Points> set;
     for (int i = random.integer(1, 4); i > 0; --i) {
         const Kind& kind = tangles()[random.index(tangles().size())];
-        set.push_back(moved(kind.make(random), {random.between(-15.0, 15.0), random.between(-15.0, 15.0)}));
+        const double x = random.between(-15.0, 15.0);
+        const double y = random.between(-15.0, 15.0);
+        set.push_back(moved(kind.make(random), {x, y}));
     }
     return set;
 }

@@ -1,4 +1,5 @@
 #include "tests/gen/tangles.h"
+#include "tests/gen/places.h"
 
 #include "platform/core/shapes/line_seg.h"
 
@@ -13,10 +14,6 @@ using gen::Random;
 constexpr double kTurn = 6.283185307179586;
 
 gkVector<2> polar(double length, double angle) { return gkVector<2>(length, gkRadian(angle)); }
-
-gkVector<2> somewhere(Random& random) {
-    return gkVector<2>(random.between(-10.0, 10.0), random.between(-10.0, 10.0));
-}
 
 void rotate(Points& points, Random& random) {
     const auto first = static_cast<std::ptrdiff_t>(random.index(points.size()));
@@ -79,7 +76,7 @@ Points noisyCurve(Random& random) {
     Points points;
     for (int i = 0; i < count; ++i) {
         const gkVector<2> on = polar(10.0, kTurn * i / count);
-        points.push_back(on + gkVector<2>(random.between(-noise, noise), random.between(-noise, noise)));
+        points.push_back(on + place(random, noise));
     }
     rotate(points, random);
     return points;
@@ -89,7 +86,8 @@ Points rosette(Random& random) {
     const int rounds = random.integer(2, 5);
     const int count = random.integer(8, 16) * rounds;
     const double depth = random.between(0.2, 1.2);
-    const int waves = rounds * random.integer(1, 3) + random.integer(1, 2);
+    const int perRound = random.integer(1, 3);
+    const int waves = rounds * perRound + random.integer(1, 2);
     Points points;
     for (int i = 0; i < count; ++i) {
         const double t = static_cast<double>(i) / count;
@@ -115,14 +113,14 @@ Points bluntTips(Random& random) {
 
 Points manyVertices(Random& random) {
     Points points;
-    for (int i = random.integer(25, 60); i > 0; --i) points.push_back(somewhere(random));
+    for (int i = random.integer(25, 60); i > 0; --i) points.push_back(place(random, 10.0));
     return points;
 }
 
 Points crossingsAsVertices(Random& random) {
     const double kept = random.between(0.2, 0.8);
     Points corners;
-    for (int i = random.integer(4, 10); i > 0; --i) corners.push_back(somewhere(random));
+    for (int i = random.integer(4, 10); i > 0; --i) corners.push_back(place(random, 10.0));
     Points points;
     for (std::size_t i = 0; i < corners.size(); ++i) {
         points.push_back(corners[i]);
@@ -137,7 +135,7 @@ Points crossingsAsVertices(Random& random) {
 
 Points touchingLobes(Random& random) {
     const int lobes = random.integer(2, 6);
-    const gkVector<2> knot = somewhere(random);
+    const gkVector<2> knot = place(random, 10.0);
     std::vector<int> order;
     for (int i = 0; i < lobes; ++i) order.push_back(i);
     if (random.chance(0.5)) std::swap(order.front(), order[random.index(order.size())]);
@@ -172,8 +170,9 @@ Points overlappingEdges(Random& random) {
     Points points;
     for (int i = random.integer(6, 24); i > 0; --i) {
         points.push_back(at);
-        const int length = random.integer(1, 4) * (random.chance(0.5) ? 1 : -1);
-        at += random.chance(0.5) ? gkVector<2>(length, 0.0) : gkVector<2>(0.0, length);
+        const int length = random.integer(1, 4);
+        const int ahead = random.chance(0.5) ? length : -length;
+        at += random.chance(0.5) ? gkVector<2>(ahead, 0.0) : gkVector<2>(0.0, ahead);
         if (random.chance(0.15)) at += gkVector<2>(0.5, 0.5);
     }
     return points;

@@ -9,8 +9,6 @@
 
 namespace {
 
-constexpr double kTouch = 1e-6;
-
 double coordinates(const gkLine& line) {
     const gkVector<2> end = line.point() + line.direction();
     return std::max(
@@ -34,15 +32,15 @@ bool TolerantOutline::isParallel(const gkLine& a, const gkLine& b) const {
 }
 
 std::vector<gk_Crossing> TolerantOutline::crossings(const gkLineSeg& seg, bool includeEnds) const {
-    const gkRect box = gk_SegmentBox(seg.p1(), seg.p2());
+    const gk_Box box = gk_Box::of(seg.p1(), seg.p2());
     std::vector<gk_Crossing> found;
     for (std::size_t k = 0; k < points_.size(); ++k) {
         const gkLineSeg& edge = edges_.segments[k];
-        if (!edges_.validLine[k] || !edges_.boxes[k].overlaps(box)) continue;
-        if (isParallel(edges_.lines[k], seg.line())) continue;
+        if (!edges_.validLine[k] || !gk_Box::of(edge.p1(), edge.p2()).overlaps(box)) continue;
+        if (isParallel(edge.line(), seg.line())) continue;
         if (!includeEnds && edge.distToPoint(seg.p1()) <= kTouch) continue;
         if (!includeEnds && edge.distToPoint(seg.p2()) <= kTouch) continue;
-        const gkVector<2> x = edges_.lines[k].intersect(seg.line());
+        const gkVector<2> x = edge.line().intersect(seg.line());
         if (edge.distToPoint(x) < kTouch && seg.distToPoint(x) < kTouch)
             found.push_back({x, static_cast<int>(k)});
     }
@@ -69,7 +67,8 @@ bool TolerantOutline::isSelfIntersecting() const {
 
 long TolerantOutline::insideCount(const gkVector<2>& point) const {
     if (!box_.within(point)) return 0;
-    return gk_InsideCount(points_, point, ray_, true, [&](const gkVector<2>& end) {
+    const std::optional<gkVector<2>> direction = gk_RayDirection(gk_Segments(points_, true), point);
+    return gk_InsideCount(direction, point, ray_, true, [&](const gkVector<2>& end) {
         return static_cast<long>(crossings({point, end}, false).size());
     });
 }

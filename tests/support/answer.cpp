@@ -74,6 +74,8 @@ std::string currentError() {
         return refusal.name;
     } catch (const gkContourDefs::EmptyContour&) {
         return "EmptyContour";
+    } catch (const gkContourDefs::EmptyRegionSet&) {
+        return "EmptyRegionSet";
     } catch (const gkContourDefs::BadParams&) {
         return "BadParams";
     } catch (const gkMathError::Singular&) {

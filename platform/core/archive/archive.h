@@ -13,6 +13,7 @@
 #include <string>
 
 class gk_ArchiveReferences;
+template <int N> class gkVector;
 
 /// Writes values into bytes or reads them out of bytes; one operator, `||`, does either, as the archive's
 /// direction says.
@@ -115,6 +116,9 @@ public:
     /// elements of at least `leastBytes` bytes each are more than the bytes left. Saving throws ValueOutOfRange
     /// beyond 32 bits.
     std::size_t vectorHeader(std::size_t count, std::size_t leastBytes);
+
+    /// For operators of vectors: x, then y, of `count` vectors one after the other, as single ones pass.
+    void vectors(gkVector<2>* values, std::size_t count);
 
     /// The object's record, in place; nothing when it has been visited. `ar || object` goes through here.
     gkArchive& inPlace(gkPersistent& object);

@@ -46,13 +46,17 @@ template <class T> gkArchive& operator||(gkArchive& ar, std::vector<T>& values) 
         values.clear();
         values.resize(count);
     }
-    for (std::size_t i = 0; i < count; ++i) {
-        if constexpr (std::is_same_v<T, bool>) {
-            bool value = values[i];
-            ar || value;
-            values[i] = value;
-        } else {
-            ar || values[i];
+    if constexpr (std::is_same_v<T, gkVector<2>>) {
+        ar.vectors(values.data(), count);
+    } else {
+        for (std::size_t i = 0; i < count; ++i) {
+            if constexpr (std::is_same_v<T, bool>) {
+                bool value = values[i];
+                ar || value;
+                values[i] = value;
+            } else {
+                ar || values[i];
+            }
         }
     }
     operation.complete();

@@ -1,6 +1,8 @@
 #include "platform/core/math/xform.h"
 
-gkVector<2> gkXform<2>::operator*(const gkVector<2>& point) const { return matrix_ * point + translation_; }
+#include "platform/core/math/xform_ops.h"
+
+gkVector<2> gkXform<2>::operator*(const gkVector<2>& point) const { return gk_XformOps(*this).image(point); }
 
 gkXform<2> gkXform<2>::operator*(const gkXform& first) const {
     return gkXform(matrix_ * first.matrix_, *this * first.translation_);

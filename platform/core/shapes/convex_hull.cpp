@@ -1,11 +1,14 @@
 #include "platform/core/shapes/convex_hull.h"
 
+#include "platform/core/shapes/column_sieve.h"
 #include "platform/core/shapes/orientation.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <limits>
+#include <optional>
 
 namespace {
 
@@ -13,6 +16,13 @@ using Points = std::vector<gkVector<2>>;
 
 // Below this many points sorting all of them costs less than looking for the extreme ones.
 constexpr std::size_t kFewestToEliminate = 32;
+// From this many on columns, which drop more, cost no more than the octagon of extremes: 15 us for a noisy
+// circle with either, 4 against 9 us for points in a square.
+constexpr std::size_t kFewestToSieve = 400;
+// One column for so many points: a narrow one drops more, but each costs some 30 ns.
+constexpr std::size_t kPointsPerColumn = 16;
+// So many columns, 448 KiB, stay in the second cache.
+constexpr std::size_t kMostColumns = 4096;
 
 bool isFinite(const gkVector<2>& p) { return std::isfinite(p.x()) && std::isfinite(p.y()); }
 
@@ -68,7 +78,8 @@ struct Candidate {
     std::size_t index;
 };
 
-// The index makes the order total, so every standard library sorts alike and the lowest index comes first.
+// The index makes the order total, so every standard library sorts alike and the lowest index comes first. An
+// outline is a few runs up and down: merging takes half the time of other sorting.
 bool isBefore(const Candidate& a, const Candidate& b) {
     if (a.point.x() != b.point.x()) return a.point.x() < b.point.x();
     if (a.point.y() != b.point.y()) return a.point.y() < b.point.y();
@@ -77,19 +88,63 @@ bool isBefore(const Candidate& a, const Candidate& b) {
 
 bool haveEqualPoints(const Candidate& a, const Candidate& b) { return a.point == b.point; }
 
-std::vector<Candidate> sortedCandidates(const Points& points) {
+template <class Drops> std::vector<Candidate> candidatesBut(const Points& points, Drops drops) {
     std::vector<Candidate> candidates;
-    if (points.size() < kFewestToEliminate) {
-        candidates.reserve(points.size());
-        for (std::size_t i = 0; i < points.size(); ++i)
-            if (isFinite(points[i])) candidates.push_back({points[i], i});
-    } else {
-        const Eliminator eliminator(points);
-        for (std::size_t i = 0; i < points.size(); ++i)
-            if (isFinite(points[i]) && !eliminator.discards(points[i])) candidates.push_back({points[i], i});
+    if (points.size() < kFewestToEliminate) candidates.reserve(points.size());
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (isFinite(points[i]) && !drops(points[i])) candidates.push_back({points[i], i});
+    return candidates;
+}
+
+// The columns of what `placed` makes of the items, points with finite coordinates apart.
+template <class Items, class Placed>
+std::optional<gk_ColumnSieve> columnsOf(const Items& items, Placed placed) {
+    if (items.size() < kFewestToSieve) return std::nullopt;
+    double left = std::numeric_limits<double>::infinity();
+    double right = -left;
+    for (const auto& item : items) {
+        const gkVector<2> p = placed(item);
+        if (!isFinite(p)) continue;
+        left = std::min(left, p.x());
+        right = std::max(right, p.x());
     }
+    gk_ColumnSieve columns(left, right, std::min(items.size() / kPointsPerColumn, kMostColumns));
+    if (!columns.isUsable()) return std::nullopt;
+    for (const auto& item : items) {
+        const gkVector<2> p = placed(item);
+        if (isFinite(p)) columns.add(p);
+    }
+    columns.spanChords();
+    return columns;
+}
+
+// A column at the left or right end is steep and drops little; rows are narrow there.
+void dropByRows(std::vector<Candidate>& candidates) {
+    const auto lying = [](const Candidate& c) { return gkVector<2>(c.point.y(), c.point.x()); };
+    const std::optional<gk_ColumnSieve> rows = columnsOf(candidates, lying);
+    if (!rows) return;
+    const auto drops = [&](const Candidate& c) { return rows->drops(lying(c)); };
+    candidates.erase(std::remove_if(candidates.begin(), candidates.end(), drops), candidates.end());
+}
+
+// All points that may be vertices of the hull, and some more.
+std::vector<Candidate> candidatesOf(const Points& points) {
+    if (points.size() < kFewestToEliminate) return candidatesBut(points, [](const auto&) { return false; });
+    if (points.size() < kFewestToSieve) {
+        const Eliminator eliminator(points);
+        return candidatesBut(points, [&](const gkVector<2>& p) { return eliminator.discards(p); });
+    }
+    const std::optional<gk_ColumnSieve> columns = columnsOf(points, [](const gkVector<2>& p) { return p; });
+    std::vector<Candidate> candidates =
+        candidatesBut(points, [&](const gkVector<2>& p) { return columns && columns->drops(p); });
+    dropByRows(candidates);
+    return candidates;
+}
+
+std::vector<Candidate> sortedCandidates(const Points& points) {
+    std::vector<Candidate> candidates = candidatesOf(points);
     if (!std::is_sorted(candidates.begin(), candidates.end(), isBefore))
-        std::sort(candidates.begin(), candidates.end(), isBefore);
+        std::stable_sort(candidates.begin(), candidates.end(), isBefore);
     candidates.erase(std::unique(candidates.begin(), candidates.end(), haveEqualPoints), candidates.end());
     return candidates;
 }

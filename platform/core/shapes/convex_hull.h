@@ -20,7 +20,7 @@
 ///
 /// Cost: O(n log n), one working copy of the points that may lie on the hull; points well inside are sorted out
 /// in O(n). Throws nothing but std::bad_alloc. Source: Andrew's monotone chain (1979), with the elimination of
-/// Akl and Toussaint (1978).
+/// Akl and Toussaint (1978) and, for many points, extremes by strips as in Bentley, Faust and Preparata (1982).
 GKCNTR_API std::vector<gkVector<2>> gfConvexHull(const std::vector<gkVector<2>>& points);
 
 #endif

@@ -55,6 +55,21 @@ TEST_F(ArchiveFile, HoldsTheBytesOfTheMemoryArchive) {
     EXPECT_EQ(value, back);
 }
 
+TEST_F(ArchiveFile, MayHaveANameInAnyScript) {
+    // Greek, Japanese and one beyond 16 bits; narrow names of some systems have no letters for them.
+    const fs::path name = room_ / fs::u8path("\xCE\xA9_\xE5\xBD\xA2_\xF0\x9F\x98\x80.gka");
+    long value = 5;
+    gkArchiveFile out(name, gkArchiveFile::eSave);
+    out || value;
+    out.close();
+    ASSERT_TRUE(fs::exists(name));
+    gkArchiveFile in(name, gkArchiveFile::eLoad);
+    long back = 0;
+    in || back;
+    in.close();
+    EXPECT_EQ(5, back);
+}
+
 TEST_F(ArchiveFile, ReplacesAnOlderOne) {
     write(std::vector<unsigned char>(1000, 1));
     gkArchiveFile(file(), gkArchiveFile::eSave).close();

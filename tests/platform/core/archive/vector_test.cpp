@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <cstring>
+#include <random>
 #include <vector>
 
 using test::loaded;
@@ -65,6 +68,27 @@ TEST(ArchiveVector, ExactlyAsLongAsTheArchiveIsRead) {
     EXPECT_THROW(
         loaded<std::vector<gkVector<2>>>("00 01 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00"),
         gkArchive::CountTooLarge);
+}
+
+// Around the sizes of the blocks that vectors pass in, and every bit of their doubles.
+TEST(ArchiveVector, OfManyVectorsHasTheBytesOfItsDoublesOneByOne) {
+    for (const std::size_t count : {1u, 255u, 256u, 257u, 511u, 512u, 513u, 5000u}) {
+        SCOPED_TRACE(count);
+        std::mt19937_64 random(count);
+        std::vector<gkVector<2>> values;
+        gkArchiveMemory single;
+        single.vectorHeader(count, 16);
+        while (values.size() < count) {
+            const std::uint64_t bits[2] = {random(), random()};
+            double value[2];
+            std::memcpy(value, bits, sizeof value);
+            values.emplace_back(value[0], value[1]);
+            single || value[0] || value[1];
+        }
+        const std::string body = saved(values);
+        ASSERT_EQ(test::body(single), body);
+        ASSERT_EQ(body, saved(loaded<std::vector<gkVector<2>>>(body)));
+    }
 }
 
 TEST(ArchiveVector, OfMoreElementsThanThirtyTwoBitsIsRefused) {

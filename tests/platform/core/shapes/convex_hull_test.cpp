@@ -46,7 +46,7 @@ Points giftWrapped(const Points& points) {
 void expectHullProperties(const Points& points, const Points& hull) {
     const std::size_t n = hull.size();
     for (std::size_t i = 0; i < n; ++i) {
-        EXPECT_EQ(1, std::min<long>(1, std::count(points.begin(), points.end(), hull[i])));
+        EXPECT_LE(1, std::count(points.begin(), points.end(), hull[i]));
         if (i > 0) {
             EXPECT_TRUE(isLower(hull[0], hull[i]));
         }
@@ -110,6 +110,102 @@ Points sample(std::uint64_t seed, std::mt19937_64& random) {
         return onCircle(random, count);
     default:
         return onLattice(random, count * 4, 30);
+    }
+}
+
+// The plain chain over all finite points, for more of them than wrapping can take.
+Points plainChain(Points points) {
+    const auto isNotFinite = [](const V& p) { return !std::isfinite(p.x()) || !std::isfinite(p.y()); };
+    points.erase(std::remove_if(points.begin(), points.end(), isNotFinite), points.end());
+    std::stable_sort(points.begin(), points.end(), isLower);
+    points.erase(std::unique(points.begin(), points.end()), points.end());
+    if (points.size() < 2) return points;
+    Points hull;
+    for (int side = 0; side < 2; ++side) {
+        const std::size_t start = hull.size();
+        for (const V& p : points) {
+            while (hull.size() >= start + 2 && exact::orientation(hull[hull.size() - 2], hull.back(), p) <= 0)
+                hull.pop_back();
+            hull.push_back(p);
+        }
+        hull.pop_back();
+        std::reverse(points.begin(), points.end());
+    }
+    return hull;
+}
+
+Points noisyCircle(std::mt19937_64& random, std::size_t count, double noise) {
+    Points points;
+    for (std::size_t i = 0; i < count; ++i) {
+        const double angle = 6.283185307179586 * static_cast<double>(i) / static_cast<double>(count);
+        const double radius = 1000.0 + between(random, -noise, noise);
+        points.emplace_back(radius * std::cos(angle), radius * std::sin(angle));
+    }
+    return points;
+}
+
+// All at whole numbers, many equal, many on one line.
+Points latticeCircle(std::mt19937_64& random, std::size_t count, double size) {
+    Points points = noisyCircle(random, count, 0.0);
+    for (V& p : points) p = V(std::round(p.x() * size), std::round(p.y() * size));
+    return points;
+}
+
+Points clusterAndOneFar(std::mt19937_64& random, std::size_t count) {
+    Points points = inSquare(random, count);
+    points[count / 3] = {between(random, -1e12, 1e12), between(random, -1e12, 1e12)};
+    return points;
+}
+
+Points onAxis(std::mt19937_64& random, std::size_t count, bool upright) {
+    Points points;
+    while (points.size() < count) {
+        const double at = between(random, -1, 1);
+        points.push_back(upright ? V(3, at) : V(at, 3));
+    }
+    return points;
+}
+
+Points withStrays(std::mt19937_64& random, Points points) {
+    const double strays[] = {std::numeric_limits<double>::quiet_NaN(), HUGE_VAL, -HUGE_VAL};
+    for (int i = 0; i < 50; ++i) {
+        V& p = points[random() % points.size()];
+        p = random() % 2 ? V(p.x(), strays[random() % 3]) : V(strays[random() % 3], p.y());
+    }
+    return points;
+}
+
+Points manyPoints(std::uint64_t seed, std::mt19937_64& random) {
+    const std::size_t count = 900 + random() % 6000;
+    switch (seed % 10) {
+    case 0:
+        return noisyCircle(random, count, 0.3);
+    case 1:
+        return noisyCircle(random, count, 0.0);
+    case 2:
+        return latticeCircle(random, count, 0.05);
+    case 3:
+        return onLattice(random, count, 4 + static_cast<int>(random() % 60));
+    case 4:
+        return clusterAndOneFar(random, count);
+    case 5:
+        return nearLine(random, count);
+    case 6:
+        return onAxis(random, count, random() % 2 == 0);
+    case 7:
+        return withStrays(random, noisyCircle(random, count, 200.0));
+    case 8:
+        return onCircle(random, count);
+    default:
+        return inSquare(random, count);
+    }
+}
+
+void expectSameBits(const Points& expected, const Points& points) {
+    ASSERT_EQ(expected, points);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        ASSERT_EQ(std::signbit(expected[i].x()), std::signbit(points[i].x()));
+        ASSERT_EQ(std::signbit(expected[i].y()), std::signbit(points[i].y()));
     }
 }
 
@@ -226,4 +322,43 @@ TEST(ConvexHull, OfScatteredPointsAtAnyScaleEqualsExactGiftWrapping) {
         for (V& p : points) p *= factor;
         ASSERT_EQ(giftWrapped(points), gfConvexHull(points));
     }
+}
+
+TEST(ConvexHull, OfManyPointsEqualsAPlainChain) {
+    for (std::uint64_t seed = 1; seed <= 200; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937_64 random(seed);
+        const Points points = manyPoints(seed, random);
+        expectSameBits(plainChain(points), gfConvexHull(points));
+    }
+}
+
+TEST(ConvexHull, OfManyPointsAtAnyScaleAndStretchEqualsAPlainChain) {
+    for (std::uint64_t seed = 1; seed <= 100; ++seed) {
+        SCOPED_TRACE(seed);
+        std::mt19937_64 random(seed);
+        Points points = manyPoints(seed, random);
+        const double across = std::ldexp(1.0, static_cast<int>(random() % 1980) - 1050);
+        const double up = random() % 2 ? across : std::ldexp(1.0, static_cast<int>(random() % 1980) - 1050);
+        for (V& p : points) p = V(p.x() * across, p.y() * up);
+        expectSameBits(plainChain(points), gfConvexHull(points));
+    }
+}
+
+TEST(ConvexHull, OfManyPointsKeepsTheFirstOfEqualPoints) {
+    Points points(2000, {0.5, 0.5});
+    points[500] = {-0.0, 0.0};
+    points[900] = {0.0, -0.0};
+    points[1000] = {1, -0.0};
+    points[1100] = {1, 0.0};
+    points[1200] = {0, 1};
+    points[1300] = {1, 1};
+    expectSameBits({{-0.0, 0.0}, {1, -0.0}, {1, 1}, {0, 1}}, gfConvexHull(points));
+}
+
+TEST(ConvexHull, OfManyPointsWiderThanADoubleEqualsAPlainChain) {
+    std::mt19937_64 random(1);
+    Points points = onCircle(random, 2000);
+    for (V& p : points) p *= 1.7e306;
+    expectSameBits(plainChain(points), gfConvexHull(points));
 }

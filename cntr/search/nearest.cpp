@@ -1,0 +1,121 @@
+#include "cntr/search/nearest.h"
+
+#include "cntr/search/magnitude.h"
+#include "platform/core/shapes/line_ops.h"
+
+#include <limits>
+
+namespace {
+
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+// The least distance so far, the lowest index among equals.
+class Best {
+public:
+    explicit Best(std::size_t none) : index_(none) {}
+
+    // False when the distance is not the best.
+    bool offer(double distance, std::size_t index) {
+        const bool isTie = distance == distance_ && index < index_ && distance < kInfinity;
+        if (!(distance < distance_ || isTie)) return false;
+        distance_ = distance;
+        index_ = index;
+        return true;
+    }
+
+    std::size_t index() const { return index_; }
+    // No box whose squared distance exceeds this can hold a better one.
+    double farther2(double slack) const { return gk_FartherSquare(distance_, slack); }
+
+private:
+    double distance_ = kInfinity;
+    std::size_t index_;
+};
+
+double slackOf(double reach, const gkVector<2>& p) { return gk_DistanceSlack(std::max(reach, gk_Reach(p))); }
+
+constexpr std::size_t kRun = 8; // segments that share a box in a scan
+
+// Whether the square of a length keeps too few bits for bounds on the distances computed from it.
+bool isTooShort(const gk_Box& box) {
+    const double length = (box.x1 - box.x0) + (box.y1 - box.y0);
+    return length > 0.0 && length < 10.0 * std::sqrt(kShortestSquare);
+}
+
+// Whether a segment in the box can be too short: neighbouring doubles are closer than that only beside 0.
+bool mayHoldTooShort(const gk_Box& box) {
+    const auto isNearZero = [](double low, double high) { return low < 1e-120 && high > -1e-120; };
+    return isNearZero(box.x0, box.x1) || isNearZero(box.y0, box.y1);
+}
+
+} // namespace
+
+// A box spares the segments of a run where it is farther than the best, with the slack of its own coordinates.
+// A vertex with NaN is passed over by the box, as it should be: its segments are at the distance of their other
+// end, or at none.
+std::size_t gk_NearestSegment(const gk_Segments& segments, const gkVector<2>& p) {
+    const bool isModerate = gk_IsModerate(p);
+    Best best(kNoSegment);
+    for (std::size_t begin = 0; begin < segments.size(); begin += kRun) {
+        const std::size_t end = std::min(begin + kRun, segments.size());
+        const gk_Box run = gk_RunBox(segments, {begin, end});
+        const double reach = std::max({gk_Reach(p), gk_Reach({run.x0, run.y0}), gk_Reach({run.x1, run.y1})});
+        const bool isBox = run.x0 <= run.x1 && run.y0 <= run.y1; // not when it starts with a NaN
+        const bool isBounded = isModerate && isBox && reach <= kGreatestCoordinate;
+        const double farther2 = isBounded ? best.farther2(gk_DistanceSlack(reach)) : kInfinity;
+        const bool mayBeTooShort = mayHoldTooShort(run);
+        if (run.distance2(p) > farther2 && !mayBeTooShort) continue;
+        for (std::size_t k = begin; k < end; ++k) {
+            const gkLineSeg segment(segments.first(k), segments.second(k));
+            const gk_Box box = gk_Box::of(segment.p1(), segment.p2());
+            if (box.distance2(p) > farther2 && !(mayBeTooShort && isTooShort(box))) continue;
+            best.offer(gk_LineOps::distToPoint(segment, p), k);
+        }
+    }
+    return best.index();
+}
+
+std::size_t gk_NearestSegment(const gk_Segments& segments, const gk_SegmentTree& tree, const gkVector<2>& p) {
+    const double slack = slackOf(tree.reach(), p);
+    Best best(kNoSegment);
+    double farther2 = kInfinity;
+    tree.nearestFirst([&](const gk_Box& box) { return box.distance2(p); }, [&] { return farther2; },
+                      [&](std::size_t run) {
+                          const gk_SegmentTree::Range range = tree.segmentsOf(run);
+                          for (std::size_t k = range.begin; k < range.end; ++k) {
+                              const gkLineSeg segment(segments.first(k), segments.second(k));
+                              if (gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2) continue;
+                              if (best.offer(gk_LineOps::distToPoint(segment, p), k))
+                                  farther2 = best.farther2(slack);
+                          }
+                      });
+    return best.index();
+}
+
+std::size_t gk_NearestVertex(const std::vector<gkVector<2>>& points, const gkVector<2>& p) {
+    double best = kInfinity;
+    std::size_t nearest = 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const double distance = gk_VectorOps::distance(points[i], p);
+        if (distance < best) {
+            best = distance;
+            nearest = i;
+        }
+    }
+    return nearest;
+}
+
+std::size_t gk_NearestVertex(const std::vector<gkVector<2>>& points, const gk_VertexTree& tree,
+                             const gkVector<2>& p) {
+    const double slack = slackOf(tree.reach(), p);
+    Best best(points.size());
+    double farther2 = kInfinity;
+    tree.nearestFirst([&](const gk_Box& box) { return box.distance2(p); }, [&] { return farther2; },
+                      [&](std::size_t i) {
+                          const gkVector<2> offset = p - points[i];
+                          if (gk_VectorOps::dot(offset, offset) > farther2) return;
+                          if (best.offer(gk_VectorOps::distance(points[i], p), i))
+                              farther2 = best.farther2(slack);
+                      });
+    return best.index();
+}

@@ -1,0 +1,157 @@
+#include "cntr/search/outline_search.h"
+
+#include "cntr/index.h"
+#include "cntr/inside_count.h"
+#include "cntr/measures.h"
+#include "cntr/search/farthest_pair.h"
+#include "cntr/search/inside_scan.h"
+#include "cntr/search/nearest.h"
+#include "cntr/search/outer_vertices.h"
+#include "platform/core/shapes/line_ops.h"
+
+namespace {
+
+// Outlines of fewer segments are scanned: the scan takes less than a walk down the tree.
+constexpr std::size_t kFewestForTree = 48;
+// The question from which on the tree is built: the tree costs about as much as two scans.
+constexpr std::uint32_t kTreeFrom = 2;
+// The inside question from which on the cells are built: they cost about as much as eight scans.
+constexpr std::uint32_t kCellsFrom = 4;
+// The question for a direction from which on the outer vertices are looked for: that costs about as much as ten
+// scans.
+constexpr std::uint32_t kOuterFrom = 8;
+
+} // namespace
+
+const gk_SegmentTree* gk_OutlineSearch::tree(const gk_Segments& outline) {
+    if (!treeTried_ && outline.size() >= kFewestForTree) {
+        if (std::optional<gk_SegmentTree> built = gk_SegmentTree::of(outline))
+            tree_ = std::make_shared<const gk_SegmentTree>(*std::move(built));
+        treeTried_ = true;
+    }
+    return tree_.get();
+}
+
+const gk_SegmentTree* gk_OutlineSearch::treeWhenAsked(const gk_Segments& outline) {
+    return treeTried_ || ++asked_ < kTreeFrom ? tree_.get() : tree(outline);
+}
+
+const gk_VertexTree* gk_OutlineSearch::vertexTreeWhenAsked(const Points& points) {
+    if (vertexTreeTried_ || points.size() < kFewestForTree || ++askedVertices_ < kTreeFrom)
+        return vertexTree_.get();
+    if (std::optional<gk_VertexTree> built = gk_VertexTree::of(points))
+        vertexTree_ = std::make_shared<const gk_VertexTree>(*std::move(built));
+    vertexTreeTried_ = true;
+    return vertexTree_.get();
+}
+
+const gk_OutlineSearch::InsideIndex* gk_OutlineSearch::insideIndexWhenAsked(const gk_Segments& outline,
+                                                                            double rayLength) {
+    if (inside_ != nullptr || ++askedInside_ < kCellsFrom || tree(outline) == nullptr) return inside_.get();
+    const gk_InsideCertificate certificate(outline.vertexCount(), outline.vertex(0), rayLength, tree_->box());
+    inside_ = std::make_shared<const InsideIndex>(
+        InsideIndex{certificate, gk_InsideCells::of(outline, *tree_, certificate)});
+    return inside_.get();
+}
+
+std::size_t gk_OutlineSearch::nearestVertex(const Points& points, const gkVector<2>& p) {
+    const gk_VertexTree* const index = vertexTreeWhenAsked(points);
+    return index == nullptr || !gk_IsModerate(p) ? gk_NearestVertex(points, p)
+                                                 : gk_NearestVertex(points, *index, p);
+}
+
+std::vector<int> gk_OutlineSearch::verticesWithin(const Points& points, const gkVector<2>& p,
+                                                  double tolerance) {
+    return cells_.near(points, vertexTreeWhenAsked(points), p, tolerance);
+}
+
+const std::vector<std::uint32_t>* gk_OutlineSearch::outerVertices(const Points& points) {
+    if (outerTried_ || points.size() < kFewestForTree) return outer_.get();
+    if (std::optional<std::vector<std::uint32_t>> found = gk_OuterVertices(points))
+        outer_ = std::make_shared<const std::vector<std::uint32_t>>(*std::move(found));
+    outerTried_ = true;
+    return outer_.get();
+}
+
+const std::vector<std::uint32_t>* gk_OutlineSearch::outerVerticesWhenAsked(const Points& points) {
+    return outerTried_ || ++askedOuter_ < kOuterFrom ? outer_.get() : outerVertices(points);
+}
+
+long gk_OutlineSearch::extremalVertex(const Points& points, const gkRadian& angle) {
+    const std::vector<std::uint32_t>* const outer = outerVerticesWhenAsked(points);
+    return outer == nullptr ? gk_ExtremalVertex(points, angle) : gk_ExtremalVertex(points, *outer, angle);
+}
+
+gkRect gk_OutlineSearch::encloseRect(const Points& points, const gkXform<2>& xform) {
+    const std::vector<std::uint32_t>* const outer = outerVerticesWhenAsked(points);
+    return outer == nullptr ? gk_EncloseRect(points, xform) : gk_EncloseRect(points, *outer, xform);
+}
+
+void gk_OutlineSearch::circleOverFarthestPair(const Points& points, gkCircle& circle) {
+    const std::vector<std::uint32_t>* const outer = outerVertices(points);
+    if (outer == nullptr) {
+        gk_CircleOverFarthestPair(points, circle);
+        return;
+    }
+    const gk_VertexPair pair = gk_FarthestPair(points, *outer);
+    if (pair.distance > 0.0)
+        circle = gkCircle((points[pair.first] + points[pair.second]) / 2.0, pair.distance / 2.0);
+}
+
+gkVector<2> gk_OutlineSearch::nearestPoint(const gk_Segments& outline, const gkVector<2>& p) {
+    const gk_SegmentTree* const index = treeWhenAsked(outline);
+    const std::size_t nearest = index == nullptr || !gk_IsModerate(p) ? gk_NearestSegment(outline, p)
+                                                                      : gk_NearestSegment(outline, *index, p);
+    if (nearest == kNoSegment) return gkVector<2>();
+    return gk_LineOps::closestPoint(gkLineSeg(outline.first(nearest), outline.second(nearest)), p);
+}
+
+std::vector<gk_Crossing> gk_OutlineSearch::crossings(const gk_Segments& outline, const gk_CrossingTest& query) {
+    const gk_SegmentTree* const index = treeWhenAsked(outline);
+    return index == nullptr ? gk_Crossings(outline, query) : gk_Crossings(outline, *index, query);
+}
+
+bool gk_OutlineSearch::mayCross(const gk_Segments& outline, const gk_Box& box) {
+    const gk_SegmentTree* const index = tree(outline);
+    const bool isBox = box.x0 <= box.x1 && box.y0 <= box.y1; // not with a NaN
+    if (index == nullptr || !isBox) return true;
+    return index->any([&](const gk_Box& other) { return other.overlaps(box); },
+                      [](std::size_t) { return true; });
+}
+
+bool gk_OutlineSearch::crossesItself(const gk_Segments& outline, const gk_Box& keptBox) {
+    const gk_SegmentTree* const index = tree(outline);
+    return index == nullptr ? gk_CrossesItself(outline, keptBox) : gk_CrossesItself(outline, *index, keptBox);
+}
+
+long gk_OutlineSearch::insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength,
+                                   bool bothWays) {
+    const gk_SegmentTree* const index = treeWhenAsked(outline);
+    const std::optional<gkVector<2>> direction = index == nullptr || !gk_IsModerate(point)
+                                                     ? gk_RayDirection(outline, point)
+                                                     : gk_RayDirection(outline, *index, point);
+    return gk_InsideCount(direction, point, rayLength, bothWays, [&](const gkVector<2>& end) {
+        const gk_CrossingTest query(gkLineSeg(point, end), false);
+        return gk_IndexAs<long>(
+            (index == nullptr ? gk_Crossings(outline, query) : gk_Crossings(outline, *index, query)).size());
+    });
+}
+
+gk_Inside gk_OutlineSearch::inside(const gk_Segments& outline, const gkVector<2>& point, double rayLength) {
+    if (!(rayLength <= kGreatestCoordinate) || !gk_IsModerate(point)) return gk_Inside::eUnknown;
+    const InsideIndex* const index = insideIndexWhenAsked(outline, rayLength);
+    if (index == nullptr) {
+        const gkVector<2>& first = outline.vertex(0);
+        const gk_Box around = gk_Box::of(first, first).grownBy(rayLength / 2.0);
+        const gk_InsideCertificate certificate(outline.vertexCount(), first, rayLength, around);
+        return certificate.allowsRaysFrom(point) ? gk_ScanInside(outline, certificate, point)
+                                                 : gk_Inside::eUnknown;
+    }
+    if (!index->cells || !index->certificate.isExact()) return gk_Inside::eUnknown;
+    if (!index->certificate.allowsRaysFrom(point)) {
+        const std::optional<gkVector<2>> direction = gk_RayDirection(outline, *tree_, point);
+        if (!direction) return gk_Inside::eInside;
+        if (!index->certificate.allowsEnd(point + *direction * rayLength)) return gk_Inside::eUnknown;
+    }
+    return index->cells->at(outline, *tree_, index->certificate, point);
+}

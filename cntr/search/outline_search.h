@@ -1,0 +1,85 @@
+// The door to the search room: answers an outline's questions with the plain scans' bits, from an index where
+// one pays.
+#ifndef GK_CNTR_SEARCH_OUTLINE_SEARCH_H
+#define GK_CNTR_SEARCH_OUTLINE_SEARCH_H
+
+#include "cntr/crossings.h"
+#include "cntr/search/inside_cells.h"
+#include "cntr/search/segment_tree.h"
+#include "cntr/search/vertex_cells.h"
+#include "cntr/search/vertex_tree.h"
+
+#include "platform/core/math/angle.h"
+#include "platform/core/math/xform.h"
+#include "platform/core/shapes/circle.h"
+#include "platform/core/shapes/rect.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <vector>
+
+// Belongs to one outline and is thrown away when that changes; every question brings the outline along. Copies
+// share what has been built, which never changes.
+//
+// A fresh outline is scanned, which costs less than an index, and small ones always are; the index comes when
+// more questions do.
+class gk_OutlineSearch {
+public:
+    using Points = std::vector<gkVector<2>>;
+
+    std::size_t nearestVertex(const Points& points, const gkVector<2>& p);
+    // In the order of gk_VertexCells.
+    std::vector<int> verticesWithin(const Points& points, const gkVector<2>& p, double tolerance);
+    // This tolerance has been asked for.
+    bool holdsCells(double tolerance) const { return cells_.holds(tolerance); }
+
+    // The measures of cntr/measures.h.
+    long extremalVertex(const Points& points, const gkRadian& angle);
+    gkRect encloseRect(const Points& points, const gkXform<2>& xform);
+    void circleOverFarthestPair(const Points& points, gkCircle& circle);
+
+    // The point of the outline nearest to p, on the first of equally near segments; (0, 0) when no distance is
+    // below infinity.
+    gkVector<2> nearestPoint(const gk_Segments& outline, const gkVector<2>& p);
+
+    // In segment order.
+    std::vector<gk_Crossing> crossings(const gk_Segments& outline, const gk_CrossingTest& query);
+    // Whether crossings() may find something for a segment in the box. Builds the index.
+    bool mayCross(const gk_Segments& outline, const gk_Box& box);
+    bool crossesItself(const gk_Segments& outline, const gk_Box& keptBox);
+
+    // Of a closed outline and a point within its kept box, with a ray of twice the distance of the farthest
+    // vertex from the first.
+    long insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength, bool bothWays);
+    // Whether that count is odd, where it is known without counting.
+    gk_Inside inside(const gk_Segments& outline, const gkVector<2>& point, double rayLength);
+
+private:
+    struct InsideIndex {
+        gk_InsideCertificate certificate;
+        std::optional<gk_InsideCells> cells;
+    };
+
+    const gk_SegmentTree* tree(const gk_Segments& outline);
+    const gk_SegmentTree* treeWhenAsked(const gk_Segments& outline);
+    const gk_VertexTree* vertexTreeWhenAsked(const Points& points);
+    const std::vector<std::uint32_t>* outerVertices(const Points& points);
+    const std::vector<std::uint32_t>* outerVerticesWhenAsked(const Points& points);
+    const InsideIndex* insideIndexWhenAsked(const gk_Segments& outline, double rayLength);
+
+    std::shared_ptr<const gk_SegmentTree> tree_;
+    std::shared_ptr<const gk_VertexTree> vertexTree_;
+    std::shared_ptr<const InsideIndex> inside_;
+    std::shared_ptr<const std::vector<std::uint32_t>> outer_;
+    gk_VertexCells cells_;
+    std::uint32_t asked_ = 0;
+    std::uint32_t askedVertices_ = 0;
+    std::uint32_t askedInside_ = 0;
+    std::uint32_t askedOuter_ = 0;
+    bool treeTried_ = false;
+    bool vertexTreeTried_ = false;
+    bool outerTried_ = false;
+};
+
+#endif

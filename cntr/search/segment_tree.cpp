@@ -1,0 +1,61 @@
+#include "cntr/search/segment_tree.h"
+
+#include "cntr/search/magnitude.h"
+#include "cntr/search/space_order.h"
+#include "platform/core/math/vector_ops.h"
+
+#include <utility>
+
+namespace {
+
+bool isModerate(const gkVector<2>& a, const gkVector<2>& b) {
+    const gkVector<2> along = b - a;
+    return gk_IsModerate(a) && gk_IsModerate(b) &&
+           (gk_VectorOps::dot(along, along) >= kShortestSquare || a == b);
+}
+
+} // namespace
+
+std::optional<gk_SegmentTree> gk_SegmentTree::of(const gk_Segments& segments) {
+    gk_SegmentTree tree;
+    std::vector<gk_Box> runBoxes;
+    if (segments.size() == 0 || !tree.measureRuns(segments, runBoxes)) return std::nullopt;
+    tree.order(runBoxes);
+    return tree;
+}
+
+gk_Box gk_RunBox(const gk_Segments& segments, gk_SegmentTree::Range range) {
+    gk_Box box = gk_Box::of(segments.first(range.begin), segments.first(range.begin));
+    for (std::size_t k = range.begin; k < range.end; ++k)
+        box = box.enclosing(gk_Box::of(segments.second(k), segments.second(k)));
+    return box;
+}
+
+bool gk_SegmentTree::measureRuns(const gk_Segments& segments, std::vector<gk_Box>& runBoxes) {
+    segmentCount_ = segments.size();
+    vertexCount_ = segments.vertexCount();
+    const std::size_t runCount = (segmentCount_ + kRun - 1) / kRun;
+    if (runCount > UINT32_MAX) return false;
+    runBoxes.reserve(runCount);
+    for (std::size_t run = 0; run < runCount; ++run) {
+        const Range range = segmentsOf(run);
+        for (std::size_t k = range.begin; k < range.end; ++k)
+            if (!isModerate(segments.first(k), segments.second(k))) return false;
+        runBoxes.push_back(gk_RunBox(segments, range));
+    }
+    return true;
+}
+
+void gk_SegmentTree::order(const std::vector<gk_Box>& runBoxes) {
+    gk_Box all = runBoxes.front();
+    for (const gk_Box& box : runBoxes) all = all.enclosing(box);
+    reach_ = std::max(gk_Reach({all.x0, all.y0}), gk_Reach({all.x1, all.y1}));
+
+    gk_SpaceOrder order(all, runBoxes.size());
+    for (const gk_Box& box : runBoxes) order.add(box.middle());
+    runs_ = order.sorted();
+    std::vector<gk_Box> leaves;
+    leaves.reserve(runs_.size());
+    for (const std::uint32_t run : runs_) leaves.push_back(runBoxes[run]);
+    boxes_ = gk_BoxHierarchy(std::move(leaves));
+}

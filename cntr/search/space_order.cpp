@@ -1,0 +1,72 @@
+#include "cntr/search/space_order.h"
+
+#include <array>
+#include <numeric>
+#include <utility>
+
+namespace {
+
+constexpr double kLastCell = 65535.0;
+
+// Position along the curve. Source: Warren, Hacker's Delight, 2013, ch. 16.
+std::uint32_t alongCurve(std::uint32_t x, std::uint32_t y) {
+    std::uint32_t position = 0;
+    for (std::uint32_t side = 1u << 15; side > 0; side /= 2) {
+        const std::uint32_t right = (x & side) != 0 ? 1u : 0u;
+        const std::uint32_t up = (y & side) != 0 ? 1u : 0u;
+        position = position * 4 + ((3 * right) ^ up);
+        if (up == 0) {
+            if (right == 1) {
+                x = ~x;
+                y = ~y;
+            }
+            std::swap(x, y);
+        }
+    }
+    return position;
+}
+
+double cellsPer(double extent) { return extent > kLastCell / 1e300 ? kLastCell / extent : 0.0; }
+
+std::uint32_t cellOf(double offset, double cellsPerUnit) {
+    return static_cast<std::uint32_t>(std::min(std::max(offset * cellsPerUnit, 0.0), kLastCell));
+}
+
+// One pass of a radix sort, by 16 of the positions' bits; keeps the order of equal ones.
+std::vector<std::uint32_t> sortedBy(unsigned shift, const std::vector<std::uint32_t>& positions,
+                                    const std::vector<std::uint32_t>& numbers) {
+    std::vector<std::size_t> starts((std::size_t{1} << 16) + 1, 0);
+    const auto digit = [&](std::uint32_t number) { return (positions[number] >> shift) & 0xFFFFu; };
+    for (const std::uint32_t number : numbers) ++starts[digit(number) + 1];
+    std::partial_sum(starts.begin(), starts.end(), starts.begin());
+    std::vector<std::uint32_t> sorted(numbers.size());
+    for (const std::uint32_t number : numbers) sorted[starts[digit(number)]++] = number;
+    return sorted;
+}
+
+// Where counting 2^16 digits twice costs more than comparing.
+constexpr std::size_t kFewestToCount = 1u << 14;
+
+} // namespace
+
+gk_SpaceOrder::gk_SpaceOrder(const gk_Box& box, std::size_t count)
+    : box_(box), columnsPerUnit_(cellsPer(box.x1 - box.x0)), rowsPerUnit_(cellsPer(box.y1 - box.y0)) {
+    positions_.reserve(count);
+}
+
+void gk_SpaceOrder::add(const gkVector<2>& place) {
+    positions_.push_back(
+        alongCurve(cellOf(place.x() - box_.x0, columnsPerUnit_), cellOf(place.y() - box_.y0, rowsPerUnit_)));
+}
+
+std::vector<std::uint32_t> gk_SpaceOrder::sorted() const {
+    std::vector<std::uint32_t> numbers(positions_.size());
+    std::iota(numbers.begin(), numbers.end(), 0u);
+    if (numbers.size() < kFewestToCount) {
+        std::sort(numbers.begin(), numbers.end(), [&](std::uint32_t a, std::uint32_t b) {
+            return positions_[a] != positions_[b] ? positions_[a] < positions_[b] : a < b;
+        });
+        return numbers;
+    }
+    return sortedBy(16, positions_, sortedBy(0, positions_, numbers));
+}

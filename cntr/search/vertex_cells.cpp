@@ -1,0 +1,93 @@
+#include "cntr/search/vertex_cells.h"
+
+#include "cntr/index.h"
+#include "cntr/search/magnitude.h"
+#include "platform/core/math/vector_ops.h"
+#include "platform/system/assert.h"
+
+#include <algorithm>
+#include <limits>
+#include <tuple>
+
+namespace {
+
+// Cells stop well inside the 64-bit range, so that a neighbour of the outermost cell still has a number.
+constexpr double kOutermostCell = 4611686018427387904.0; // 2^62
+
+std::int64_t roundedHalvesUp(double q) {
+    if (!(q >= 0.0)) gstd_assert_("q >= 0", "cntr/vertex_grid", 31);
+    const double rounded = q + 0.5;
+    return static_cast<std::int64_t>(rounded < kOutermostCell ? rounded : kOutermostCell);
+}
+
+struct Cell {
+    std::int64_t column;
+    std::int64_t row;
+};
+
+Cell cellOf(const gkVector<2>& p, double size) { return {gk_GridCell(p.x(), size), gk_GridCell(p.y(), size)}; }
+
+// Collects vertices of the block around a point's cell.
+class Block {
+public:
+    Block(const gkVector<2>& p, double tolerance)
+        : p_(p), tolerance_(tolerance), middle_(cellOf(p, tolerance)) {}
+
+    void offer(const gkVector<2>& vertex, const Cell& cell, std::size_t index) {
+        const bool inBlock = middle_.column - 1 <= cell.column && cell.column <= middle_.column + 1 &&
+                             middle_.row - 1 <= cell.row && cell.row <= middle_.row + 1;
+        if (inBlock && gk_VectorOps::distance(vertex, p_) < tolerance_)
+            found_.push_back({cell.column, cell.row, gk_IndexAs<int>(index)});
+    }
+
+    std::vector<int> ordered() {
+        std::sort(found_.begin(), found_.end());
+        std::vector<int> indices;
+        indices.reserve(found_.size());
+        for (const Found& found : found_) indices.push_back(std::get<2>(found));
+        return indices;
+    }
+
+private:
+    using Found = std::tuple<std::int64_t, std::int64_t, int>; // column, row, index
+
+    gkVector<2> p_;
+    double tolerance_;
+    Cell middle_;
+    std::vector<Found> found_;
+};
+
+} // namespace
+
+std::int64_t gk_GridCell(double value, double size) {
+    const double q = value / size;
+    return q < 0.0 ? -roundedHalvesUp(-q) : roundedHalvesUp(q);
+}
+
+bool gk_VertexCells::holds(double tolerance) const {
+    return std::any_of(tolerances_.begin(), tolerances_.end(),
+                       [&](double known) { return !(known < tolerance) && !(known > tolerance); });
+}
+
+std::vector<int> gk_VertexCells::near(const std::vector<gkVector<2>>& points, const gk_VertexTree* tree,
+                                      const gkVector<2>& p, double tolerance) {
+    const bool isTreeEnough = tree != nullptr && gk_IsModerate(p) && tolerance <= kGreatestCoordinate;
+    if (isTreeEnough && holds(tolerance)) {
+        Block block(p, tolerance);
+        // Nearer than the tolerance as it is computed is nearer than a little more.
+        const double reach = tolerance + gk_DistanceSlack(std::max(tree->reach(), gk_Reach(p)) + tolerance);
+        const gk_Box around = gk_Box::of(p, p).grownBy(reach);
+        tree->all([&](const gk_Box& box) { return box.overlaps(around); },
+                  [&](std::size_t i) {
+                      if (around.holds(points[i])) block.offer(points[i], cellOf(points[i], tolerance), i);
+                  });
+        return block.ordered();
+    }
+    std::vector<Cell> cells;
+    cells.reserve(points.size());
+    for (const gkVector<2>& point : points) cells.push_back(cellOf(point, tolerance));
+    if (!holds(tolerance)) tolerances_.push_back(tolerance);
+    Block block(p, tolerance);
+    for (std::size_t i = 0; i < points.size(); ++i) block.offer(points[i], cells[i], i);
+    return block.ordered();
+}

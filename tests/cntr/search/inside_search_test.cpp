@@ -1,0 +1,117 @@
+// Inside or not without a ray, and the ray's direction from a tree. Oracle: tests/oracle/inside_count.h.
+#include "cntr/inside_count.h"
+#include "cntr/measures.h"
+#include "cntr/search/inside_cells.h"
+#include "cntr/search/inside_scan.h"
+#include "cntr/search/magnitude.h"
+#include "tests/cntr/search/search_shapes.h"
+#include "tests/oracle/inside_count.h"
+#include "tests/support/answer.h"
+#include "tests/support/shapes.h"
+
+namespace {
+
+using gen::Points;
+
+// The kind's own probes and places all over the box.
+Points probes(const Points& points, std::uint64_t seed) {
+    Points list = gen::probes(points, seed);
+    gen::Random random(seed);
+    const gkRect box = gk_EncloseRect(points, gkXform<2>());
+    for (int i = 0; i < 60; ++i)
+        list.emplace_back(random.between(box.ul().x(), box.lr().x()),
+                          random.between(box.ul().y(), box.lr().y()));
+    return list;
+}
+
+struct Counts {
+    int known = 0;
+    int asked = 0;
+
+    void add(gk_Inside answer) {
+        ++asked;
+        if (answer != gk_Inside::eUnknown) ++known;
+    }
+};
+
+bool isInside(gk_Inside answer) { return answer == gk_Inside::eInside; }
+
+} // namespace
+
+TEST(InsideSearch, WhatAScanKnowsIsThePlainAnswer) {
+    Counts counts;
+    search::each(12, [&](const Points& points, std::uint64_t seed) {
+        if (points.size() < 2) return;
+        const gk_Segments outline(points, true);
+        const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
+        if (!(rayLength <= kGreatestCoordinate)) return;
+        const gk_Box around = gk_Box::of(points.front(), points.front()).grownBy(rayLength / 2.0);
+        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, around);
+        const gkRect box = gk_EncloseRect(points, gkXform<2>());
+        for (const gkVector<2>& p : probes(points, seed)) {
+            if (!box.within(p) || !gk_IsModerate(p) || !certificate.allowsRaysFrom(p)) continue;
+            const gk_Inside known = gk_ScanInside(outline, certificate, p);
+            counts.add(known);
+            if (known == gk_Inside::eUnknown) continue;
+            ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(known)) << p;
+        }
+    });
+    EXPECT_LT(counts.asked / 3, counts.known); // the rest lies on edges and at vertices
+}
+
+TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
+    Counts counts;
+    search::each(12, [&](const Points& points, std::uint64_t seed) {
+        if (points.size() < 2) return;
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        if (!tree) return;
+        const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
+        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, tree->box());
+        const auto cells = gk_InsideCells::of(outline, *tree, certificate);
+        if (!cells) return;
+        for (const gkVector<2>& p : probes(points, seed)) {
+            if (!gk_IsModerate(p) || !certificate.allowsRaysFrom(p)) continue;
+            const gk_Inside known = cells->at(outline, *tree, certificate, p);
+            counts.add(known);
+            if (known == gk_Inside::eUnknown) continue;
+            ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(known)) << p;
+        }
+    });
+    EXPECT_LT(counts.asked / 3, counts.known); // the rest lies on edges and at vertices
+}
+
+TEST(InsideSearch, TreeSendsTheRayWhereThePlainScanDoes) {
+    search::each(12, [](const Points& points, std::uint64_t seed) {
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        if (!tree) return;
+        for (const gkVector<2>& p : probes(points, seed)) {
+            if (!gk_IsModerate(p)) continue;
+            const auto plain = gk_RayDirection(outline, p);
+            const auto fast = gk_RayDirection(outline, *tree, p);
+            ASSERT_EQ(plain.has_value(), fast.has_value()) << p;
+            if (plain) {
+                ASSERT_EQ(answer([&] { return *plain; }), answer([&] { return *fast; })) << p;
+            }
+        }
+    });
+}
+
+TEST(InsideSearch, RayOfFarCoordinatesIsNotCertified) {
+    // At 1e10 a crossing is computed some 1e-6 off its segments, and the plain count misses some.
+    const gk_InsideCertificate certificate(4, {1e10, 0}, 2e10, {0, 0, 1e10, 1e10});
+    EXPECT_FALSE(certificate.allowsRaysFrom({5e9, 1e9}));
+}
+
+TEST(InsideSearch, RayThatMayEndInsideIsNotCertified) {
+    // The first vertex is the middle of a square on its corner, so D is 100, and from a corner of the box a ray
+    // may end inside.
+    const Points square = {{0, 0}, {50, 0}, {0, 50}, {-50, 0}, {0, -50}};
+    const double rayLength = 2.0 * gk_CircleAroundFirst(square).radius();
+    const gk_InsideCertificate certificate(square.size(), square.front(), rayLength, {-50, -50, 50, 50});
+    EXPECT_FALSE(certificate.allowsRaysFrom({-49, -49}));
+    EXPECT_TRUE(certificate.allowsRaysFrom({-20, -20}));
+    EXPECT_FALSE(certificate.allowsEnd({20, 20}));
+    EXPECT_TRUE(certificate.allowsEnd({-49, 51}));
+}

@@ -1,0 +1,99 @@
+// Nearest segments, nearest vertices and vertices within a tolerance from trees. Oracle: tests/oracle/closest.h
+// and vertex_cells.h, every segment, no shortcut.
+#include "cntr/search/nearest.h"
+
+#include "cntr/search/magnitude.h"
+#include "cntr/search/vertex_cells.h"
+#include "platform/core/shapes/line_ops.h"
+#include "tests/cntr/search/search_shapes.h"
+#include "tests/oracle/closest.h"
+#include "tests/oracle/vertex_cells.h"
+#include "tests/support/answer.h"
+#include "tests/support/shapes.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+using gen::Points;
+
+gkVector<2> pointOn(const gk_Segments& segments, std::size_t k, const gkVector<2>& p) {
+    if (k == kNoSegment) return gkVector<2>();
+    return gk_LineOps::closestPoint(gkLineSeg(segments.first(k), segments.second(k)), p);
+}
+
+} // namespace
+
+TEST(NearestSearch, ScanFindsThePlainNearestPoint) {
+    search::each(12, [](const Points& points, std::uint64_t seed) {
+        if (points.size() < 2) return;
+        for (const bool closed : {false, true}) {
+            const gk_Segments segments(points, closed);
+            for (const gkVector<2>& p : gen::probes(points, seed)) {
+                ASSERT_EQ(answer([&] { return oracle::closestPoint(points, closed, p, false); }),
+                          answer([&] { return pointOn(segments, gk_NearestSegment(segments, p), p); }))
+                    << p;
+            }
+        }
+    });
+}
+
+TEST(NearestSearch, TreeFindsTheSegmentOfTheScan) {
+    int trees = 0;
+    search::each(12, [&](const Points& points, std::uint64_t seed) {
+        for (const bool closed : {false, true}) {
+            const gk_Segments segments(points, closed);
+            const auto tree = gk_SegmentTree::of(segments);
+            if (!tree) continue;
+            ++trees;
+            for (const gkVector<2>& p : gen::probes(points, seed)) {
+                if (!gk_IsModerate(p)) continue;
+                ASSERT_EQ(gk_NearestSegment(segments, p), gk_NearestSegment(segments, *tree, p)) << p;
+            }
+        }
+    });
+    EXPECT_LT(300, trees);
+}
+
+TEST(NearestSearch, TreeFindsThePlainNearestVertex) {
+    search::each(12, [](const Points& points, std::uint64_t seed) {
+        const auto tree = gk_VertexTree::of(points);
+        if (!tree || points.size() < 2) return;
+        for (const gkVector<2>& p : gen::probes(points, seed)) {
+            if (!gk_IsModerate(p)) continue;
+            ASSERT_EQ(oracle::closestVertexIndex(points, p),
+                      static_cast<long>(gk_NearestVertex(points, *tree, p)))
+                << p;
+        }
+    });
+}
+
+TEST(NearestSearch, TreeFindsTheVerticesWithinATolerance) {
+    search::each(4, [](const Points& points, std::uint64_t seed) {
+        const auto tree = gk_VertexTree::of(points);
+        if (!tree || points.size() < 2) return;
+        gk_VertexCells cells;
+        for (const double tolerance : gen::tolerances(points)) {
+            for (const gkVector<2>& p : gen::probes(points, seed)) {
+                ASSERT_EQ(answer([&] { return oracle::vertexIndex(points, p, tolerance); }),
+                          answer([&] { return cells.near(points, &*tree, p, tolerance); }))
+                    << p << tolerance;
+            }
+        }
+    });
+}
+
+TEST(NearestSearch, TreesRefuseNumbersBeyondTheirBounds) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const gkVector<2>& bad : {gkVector<2>(nan, 0), gkVector<2>(0, 2e140), gkVector<2>(-INFINITY, 0)}) {
+        const Points points = {{0, 0}, bad, {1, 1}};
+        EXPECT_FALSE(gk_SegmentTree::of(gk_Segments(points, true)));
+        EXPECT_FALSE(gk_VertexTree::of(points));
+    }
+    const Points tiny = {{0, 0}, {1e-150, 0}, {1, 1}};
+    EXPECT_FALSE(gk_SegmentTree::of(gk_Segments(tiny, true)));
+    EXPECT_TRUE(gk_VertexTree::of(tiny));
+    EXPECT_FALSE(gk_SegmentTree::of(gk_Segments({}, true)));
+    EXPECT_FALSE(gk_VertexTree::of({}));
+}
