@@ -304,6 +304,6 @@ template <class Datum> void gkRegionSetT<Datum>::serialize_(gkArchive& archive, 
     archive || regionsT_;
 }
 
-template class gkContourT<gkEdgelet>;
-template class gkRegionT<gkEdgelet>;
-template class gkRegionSetT<gkEdgelet>;
+template class GKCNTR_TEMPLATE_EXPORT gkContourT<gkEdgelet>;
+template class GKCNTR_TEMPLATE_EXPORT gkRegionT<gkEdgelet>;
+template class GKCNTR_TEMPLATE_EXPORT gkRegionSetT<gkEdgelet>;

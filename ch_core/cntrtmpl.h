@@ -192,8 +192,8 @@ private:
     Regions regionsT_;
 };
 
-extern template class GKCNTR_API gkContourT<gkEdgelet>;
-extern template class GKCNTR_API gkRegionT<gkEdgelet>;
-extern template class GKCNTR_API gkRegionSetT<gkEdgelet>;
+extern template class GKCNTR_TEMPLATE_API gkContourT<gkEdgelet>;
+extern template class GKCNTR_TEMPLATE_API gkRegionT<gkEdgelet>;
+extern template class GKCNTR_TEMPLATE_API gkRegionSetT<gkEdgelet>;
 
 #endif

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr int kTerms = 6;
+constexpr int kMarginShare = 16;    // the margin is this part of the picture wide, on each side
 constexpr int kRounds = 6;          // the surface settles after three or four
 constexpr double kFittedSide = 256; // a smooth surface needs no more pixels than this along the longer side
 
@@ -58,6 +59,17 @@ cv::Mat objectsIn(const cv::Mat& difference) {
     return objects;
 }
 
+// Objects may cover most of a picture, but hardly most of its margin; so the first surface goes through the
+// margin only and takes no object that fills the middle for the background.
+cv::Mat insideOfFrame(const cv::Size& size) {
+    cv::Mat inside(size, CV_8U, cv::Scalar(0));
+    const int x = std::max(2, size.width / kMarginShare);
+    const int y = std::max(2, size.height / kMarginShare);
+    const cv::Rect middle(x, y, std::max(0, size.width - 2 * x), std::max(0, size.height - 2 * y));
+    inside(middle).setTo(255);
+    return inside;
+}
+
 } // namespace
 
 cv::Mat withoutBackground(const cv::Mat& gray) {
@@ -66,7 +78,7 @@ cv::Mat withoutBackground(const cv::Mat& gray) {
     cv::resize(gray, small, cv::Size(), shrink, shrink, cv::INTER_AREA);
     small.convertTo(small, CV_32F);
 
-    cv::Mat objects(small.size(), CV_8U, cv::Scalar(0));
+    cv::Mat objects = insideOfFrame(small.size());
     cv::Mat coefficients;
     for (int round = 0; round < kRounds; ++round) {
         coefficients = fit(small, objects);

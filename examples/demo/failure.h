@@ -8,4 +8,9 @@ struct Failure : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// The command line cannot be understood; the exit status is 2 then instead of 1.
+struct BadCommandLine : Failure {
+    using Failure::Failure;
+};
+
 #endif

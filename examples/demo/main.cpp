@@ -1,11 +1,11 @@
-// Measures the objects of a picture: outlines by OpenCV, everything else by gkcntr.
+// Measures the objects of a picture as a gauging program would: OpenCV tells which pixels belong to objects,
+// the edges are found between the pixels, everything else is done by gkcntr.
 #include "examples/demo/failure.h"
-#include "examples/demo/keep.h"
 #include "examples/demo/measure.h"
+#include "examples/demo/objects.h"
 #include "examples/demo/options.h"
-#include "examples/demo/outlines.h"
 #include "examples/demo/photograph.h"
-#include "examples/demo/picture.h"
+#include "examples/demo/results.h"
 #include "examples/demo/table.h"
 #include "examples/demo/totals.h"
 #include "platform/core/object/exception.h"
@@ -27,58 +27,50 @@ cv::Mat partOf(const cv::Mat& picture, const Part& part) {
     return picture(cv::Rect(part.left, part.top, part.width, part.height)).clone();
 }
 
-void makeFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (!std::filesystem::is_directory(folder, error))
-        throw Failure("The folder '" + folder.string() + "' cannot be made.");
+Objects findIn(const cv::Mat& picture, const Options& options, const Scale& scale, Progress& progress) {
+    progress.tell("looking for objects");
+    const PixelOutlines outlines = findOutlines(picture, options.leastArea);
+    Objects found = traceObjects(picture, outlines, scale, progress);
+    if (found.all.empty()) throw Failure("No objects were found in '" + options.image.string() + "'.");
+    return found;
 }
 
-void keep(const std::filesystem::path& file, const gkRegionSet& regions) {
-    saveRegions(file, regions);
-    if (!same(loadRegions(file), regions))
-        throw Failure("The regions read back from '" + file.string() + "' differ from those written.");
-    const std::size_t count = regions.regions().size();
-    std::cout << file.string() << " holds " << counted(count, "region") << "; read back, "
-              << (count == 1 ? "it is" : "they are") << " equal.\n";
+void tellLeftOut(std::size_t count, const std::string& noun, const std::string& reason) {
+    if (count > 0)
+        std::cout << counted(count, noun) << (count == 1 ? " is" : " are") << " left out, " << reason << ".\n";
 }
 
-void tell(const Outlines& found, const std::vector<Measures>& objects) {
-    std::cout << tableOfOutlines(objects) << '\n' << tableOfAreas(objects) << '\n';
-    if (found.refusedHoles > 0)
-        std::cout << counted(found.refusedHoles, "hole")
-                  << (found.refusedHoles == 1 ? " is left out, since it touches its outline.\n"
-                                              : " are left out, since they touch their outlines.\n");
+void tell(const Objects& found, const std::vector<Measures>& measures, const Scale& scale) {
+    std::cout << tableOfOutlines(measures, scale) << '\n' << tableOfAreas(measures, scale) << '\n';
+    tellLeftOut(found.withoutEdge, "outline", "without a clear edge");
+    tellLeftOut(found.touchingHoles, "hole", "touching the outline around it");
+    gkRegionSet all;
+    for (const Object& object : found.all) all.add(object.shape, gkContourDefs::eKeepIntersections);
+    std::cout << totals(all, scale) << '\n';
 }
 
 void run(const Options& options) {
+    Progress progress;
+    const Scale scale(options.scale);
     const cv::Mat whole = readPicture(options.image);
     const cv::Mat picture = options.part ? partOf(whole, *options.part) : whole;
-    const Outlines found = findOutlines(picture, options.leastArea);
-    const std::vector<gkPtrHandle<gkRegion>>& regions = found.regions;
-    if (regions.empty()) throw Failure("No objects were found in '" + options.image.string() + "'.");
-    std::vector<Measures> objects;
-    for (const gkPtrHandle<gkRegion>& region : regions) objects.push_back(measure(*region));
-
-    const std::string name = options.image.stem().string();
+    const Objects found = findIn(picture, options, scale, progress);
+    std::vector<Measures> measures;
+    for (const Object& object : found.all) {
+        progress.tell("measuring object", measures.size() + 1, found.all.size());
+        measures.push_back(measure(object));
+    }
+    progress.clear();
     std::cout << options.image.string() << ": " << picture.cols << " x " << picture.rows << " pixels, "
-              << counted(objects.size(), "object") << "\n\n";
-    tell(found, objects);
-    const gkRegionSet all(regions, gkContourDefs::eKeepIntersections);
-    std::cout << totals(all) << '\n';
-
-    makeFolder(options.folder);
-    keep(options.folder / (name + "_regions.gka"), all);
-    for (const std::filesystem::path& file :
-         savePictures(options.folder / (name + "_measured"), photographOf(picture), regions, objects,
-                      options.wantedSide))
-        std::cout << file.string() << " written.\n";
+              << counted(measures.size(), "object") << "\n\n";
+    tell(found, measures, scale);
+    writeResults(options, {photographOf(picture), found.all, measures, scale}, progress);
 }
 
-int fail(const std::string& sentence) {
+int fail(const std::string& sentence, int status) {
     std::cout.flush();
     std::cerr << "demo: " << sentence << '\n';
-    return 1;
+    return status;
 }
 
 } // namespace
@@ -90,10 +82,12 @@ int main(int count, char** arguments) {
             std::cout << kUsage;
         else
             run(options);
-        return std::cout.flush() ? 0 : fail("The table cannot be written.");
+        return std::cout.flush() ? 0 : fail("The table cannot be written.", 1);
+    } catch (const BadCommandLine& error) {
+        return fail(error.what(), 2);
     } catch (const gkException& error) {
-        return fail(narrow(error.message()) + '.');
+        return fail(narrow(error.message()) + '.', 1);
     } catch (const std::exception& error) {
-        return fail(error.what());
+        return fail(error.what(), 1);
     }
 }

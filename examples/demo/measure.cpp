@@ -59,15 +59,17 @@ std::optional<gkEllipse> ellipseOf(const gk_InertiaData& moments) {
 
 } // namespace
 
-Measures measure(const gkRegion& region) {
+Measures measure(const Object& object) {
+    const gkRegion& region = *object.shape;
     Measures measures;
     measures.number = region.label();
     measures.vertices = region.points().size();
-    measures.closed = region.isClosed();
+    measures.leftOut = object.leftOut;
     measures.length = region.length();
     measures.meanPosition = region.meanPosition();
     measures.diameter = region.diameter(gkContourDefs::eExact);
     measures.hull = hullOf(region);
+    measures.hullArea = gf_Area(measures.hull.points());
     measures.farthestPair = farthestPair(measures.hull.points());
     measures.fit = fitOf(region);
     measures.crossesItself = region.isSelfIntersecting();

@@ -1,8 +1,8 @@
-// Everything the demo tells about one object.
+// Everything the demo tells about one object, in its scale's unit.
 #ifndef GK_EXAMPLES_DEMO_MEASURE_H
 #define GK_EXAMPLES_DEMO_MEASURE_H
 
-#include "cntr/region.h"
+#include "examples/demo/object.h"
 
 #include <cstddef>
 #include <optional>
@@ -10,18 +10,19 @@
 
 struct FittedEllipse {
     gkEllipse ellipse;
-    double error = 0.0; // root mean square distance of the vertices, in pixels
+    double error = 0.0; // root mean square distance of the vertices
 };
 
 struct Measures {
     unsigned long number = 0;
     std::size_t vertices = 0;
-    bool closed = false;
+    std::size_t leftOut = 0; // see Object
     double length = 0.0;
     gkVector<2> meanPosition;
     double diameter = 0.0;
     gkLineSeg farthestPair;
     gkRegion hull;
+    double hullArea = 0.0;
     std::optional<FittedEllipse> fit; // none where the vertices determine no ellipse
     bool crossesItself = false;
 
@@ -32,7 +33,7 @@ struct Measures {
     std::optional<gkEllipse> momentsEllipse; // solid, with the second moments of the region and its holes
 };
 
-// `region` has at least three vertices; they and those of its holes run counter-clockwise.
-Measures measure(const gkRegion& region);
+// The shape has at least three vertices; they and those of its holes run counter-clockwise.
+Measures measure(const Object& object);
 
 #endif

@@ -16,13 +16,19 @@ struct Part {
 struct Options {
     bool help = false;
     std::filesystem::path image;
-    std::optional<Part> part;     // of the image that is measured; all of it without
-    std::filesystem::path folder; // where the results go
-    double leastArea = 64.0;      // of an object or a hole, in square pixels
-    double wantedSide = 1600.0;   // of the pictures written, in pixels
+    std::optional<Part> part;    // of the image that is measured; all of it without
+    std::optional<double> scale; // millimetres per pixel; in pixels without
+    double leastArea = 64.0;     // of an object or a hole, in square pixels
+    double wantedSide = 1600.0;  // of the pictures written, in pixels
+    // Where results go; what is not named is not written.
+    std::filesystem::path picture;
+    std::filesystem::path csv;
+    std::filesystem::path json;
+    std::filesystem::path archive;
+    std::filesystem::path folder; // for all of them, under names made from the image's
 };
 
-// Throws Failure for what is not understood.
+// Throws BadCommandLine for what is not understood.
 Options parseOptions(int count, char** arguments);
 
 extern const char* const kUsage;

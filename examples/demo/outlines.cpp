@@ -2,7 +2,6 @@
 
 #include "cntr/moments.h"
 #include "examples/demo/object_mask.h"
-#include "examples/demo/reading_order.h"
 
 #include <algorithm>
 #include <opencv2/imgproc.hpp>
@@ -11,7 +10,6 @@ namespace {
 
 using Vertices = std::vector<gkVector<2>>;
 using Border = std::vector<cv::Point>;
-using Holes = std::vector<gkPtrHandle_const<gkRegion>>;
 
 // The second moments are true for counter-clockwise vertices.
 Vertices pixelCentres(const Border& border, int enlargement) {
@@ -29,14 +27,14 @@ public:
         cv::findContours(mask.pixels, borders_, links_, cv::RETR_CCOMP, cv::CHAIN_APPROX_NONE);
     }
 
-    Outlines find() {
-        for (int i = 0; i >= 0 && !borders_.empty(); i = links_[index(i)][kNext]) {
+    std::vector<PixelOutline> find() const {
+        std::vector<PixelOutline> found;
+        for (int i = borders_.empty() ? -1 : 0; i >= 0; i = links_[index(i)][kNext]) {
             const Vertices outline = vertices(i);
-            if (gf_Area(outline) < leastArea_) continue;
-            found_.regions.emplace_back(new gkRegion(outline));
-            addHoles(*found_.regions.back(), links_[index(i)][kFirstChild]);
+            if (gf_Area(outline) >= leastArea_)
+                found.push_back({outline, holes(links_[index(i)][kFirstChild])});
         }
-        return found_;
+        return found;
     }
 
 private:
@@ -47,32 +45,24 @@ private:
 
     Vertices vertices(int i) const { return pixelCentres(borders_[index(i)], enlargement_); }
 
-    void addHoles(gkRegion& region, int first) {
+    std::vector<Vertices> holes(int first) const {
+        std::vector<Vertices> all;
         for (int i = first; i >= 0; i = links_[index(i)][kNext]) {
             const Vertices hole = vertices(i);
-            if (gf_Area(hole) < leastArea_) continue;
-            Holes holes = region.holes();
-            holes.emplace_back(new gkRegion(hole));
-            try {
-                region.holes(holes);
-            } catch (const gkContourDefs::BadParams&) {
-                ++found_.refusedHoles;
-            }
+            if (gf_Area(hole) >= leastArea_) all.push_back(hole);
         }
+        return all;
     }
 
     std::vector<Border> borders_;
     std::vector<cv::Vec4i> links_;
     int enlargement_;
     double leastArea_;
-    Outlines found_;
 };
 
 } // namespace
 
-Outlines findOutlines(const cv::Mat& picture, double leastArea) {
-    Outlines found = Finder(findObjects(picture), leastArea).find();
-    sortForReading(found.regions);
-    for (std::size_t i = 0; i < found.regions.size(); ++i) found.regions[i]->label(i + 1);
-    return found;
+PixelOutlines findOutlines(const cv::Mat& picture, double leastArea) {
+    const ObjectMask mask = findObjects(picture);
+    return {Finder(mask, leastArea).find(), mask.enlargement > 1};
 }

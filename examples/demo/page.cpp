@@ -5,12 +5,13 @@
 
 namespace {
 
-constexpr double kMostEnlarged = 8;
+constexpr double kMostEnlarged = 24;
 
 } // namespace
 
-const Key Page::outline = {"outline", gkColor(255, 221, 51), 5.0, false};
-const Key Page::hole = {"hole", gkColor(255, 90, 70), 5.0, false};
+const Key Page::edgePoint = {"edge points", gkColor(215, 0, 50), 4.0, false};
+const Key Page::outline = {"outline", gkColor(255, 225, 60), 1.2, false};
+const Key Page::hole = {"hole", gkColor(120, 255, 220), 1.2, false};
 const Key Page::hull = {"convex hull", gkColor(64, 224, 255), 2.0, false};
 const Key Page::ellipse = {"fitted ellipse", gkColor(255, 70, 200), 2.0, false};
 const Key Page::momentsEllipse = {"ellipse of the moments", gkColor(150, 150, 255), 2.0, false};
@@ -29,7 +30,8 @@ Page::Page(long width, long height, double wantedSide) : width_(width) {
 void Page::layOutLegend(double top) {
     const double gap = textHeight();
     gkVector<2> next(gap, top + 1.3 * gap);
-    for (Key key : {outline, hole, hull, ellipse, momentsEllipse, farthestPair, meanPosition, centerOfMass}) {
+    for (Key key :
+         {edgePoint, outline, hole, hull, ellipse, momentsEllipse, farthestPair, meanPosition, centerOfMass}) {
         const double length = sampleLength() + 0.5 * gap + textWidth(key.text, textHeight());
         if (next.x() > gap && next.x() + length > static_cast<double>(width_))
             next = gkVector<2>(gap, next.y() + 1.6 * gap);

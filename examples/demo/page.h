@@ -39,6 +39,7 @@ public:
         return 0.56 * textHeight * static_cast<double>(text.size());
     }
 
+    static const Key edgePoint;
     static const Key outline;
     static const Key hole;
     static const Key hull;

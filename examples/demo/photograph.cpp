@@ -1,30 +1,16 @@
 #include "examples/demo/photograph.h"
 
 #include "examples/demo/failure.h"
+#include "examples/demo/files.h"
+#include "examples/demo/whole_file.h"
 
-#include <fstream>
-#include <iterator>
 #include <opencv2/core/utils/logger.hpp>
 #include <opencv2/imgcodecs.hpp>
 
-namespace {
-
-std::vector<unsigned char> bytesOf(const std::filesystem::path& file) {
-    const std::string name = "'" + file.string() + "'";
-    std::error_code unknown;
-    if (std::filesystem::is_directory(file, unknown)) throw Failure(name + " is a folder, not a picture.");
-    std::ifstream in(file, std::ios::binary);
-    if (!in) throw Failure(name + " cannot be opened for reading.");
-    std::vector<unsigned char> bytes{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (in.bad()) throw Failure(name + " cannot be read to its end.");
-    return bytes;
-}
-
-} // namespace
-
 cv::Mat readPicture(const std::filesystem::path& file) {
-    const std::vector<unsigned char> bytes = bytesOf(file);
-    // Of a damaged file OpenCV would tell in several lines what is said here in one.
+    const std::vector<unsigned char> bytes = readBytes(file);
+    if (isDamaged(bytes)) throw Failure("'" + file.string() + "' is damaged or cut off.");
+    // Of what else it does not understand OpenCV would tell in several lines what is said here in one.
     cv::utils::logging::setLogLevel(cv::utils::logging::LOG_LEVEL_SILENT);
     cv::Mat picture;
     try {

@@ -12,15 +12,15 @@ constexpr gkColor kPaper(24, 26, 30);
 constexpr gkUITablet::Layers kShapes = gkUITablet::eOverlayLayer;
 constexpr gkUITablet::Layers kText = gkUITablet::eLabelLayer;
 
-using Regions = std::vector<gkPtrHandle<gkRegion>>;
-
 gkPair<double> pair(const gkVector<2>& v) { return gkPair<double>(v.x(), v.y()); }
 
-// A surface and a page: the surfaces set their stroke width alike, but the abstract one leaves it to them.
+// A surface and a page: the surfaces set their stroke width alike, but the abstract one leaves it to them. The
+// surface is the picture's, in pixels; measures are in units.
 template <class Tablet> class Painter {
 public:
-    explicit Painter(const Page& page)
-        : page_(page), tablet_(page.width(), page.heightWithLegend(), page.scale()) {
+    Painter(const Page& page, const Scale& scale)
+        : page_(page), toPixels_(scale.toPixels()), pixelsPerUnit_(1.0 / scale.size()),
+          tablet_(page.width(), page.heightWithLegend(), page.scale()) {
         tablet_.background(kPaper);
     }
 
@@ -32,9 +32,9 @@ public:
                           photo.pngBytes, gkUITablet::eImageLayer);
     }
 
-    void region(const gkRegion& region) {
-        contour(region, Page::outline);
-        for (const gkPtrHandle_const<gkRegion>& hole : region.holes()) contour(*hole, Page::hole);
+    void outlines(const Object& object) {
+        contour(*object.shape, Page::outline);
+        for (const gkPtrHandle_const<gkRegion>& hole : object.shape->holes()) contour(*hole, Page::hole);
     }
 
     void measures(const Measures& object) {
@@ -42,12 +42,19 @@ public:
         if (object.fit) ellipse(object.fit->ellipse, Page::ellipse);
         if (object.momentsEllipse) ellipse(*object.momentsEllipse, Page::momentsEllipse);
         use(Page::farthestPair);
-        tablet_.drawLineSeg(pair(object.farthestPair.p1()), pair(object.farthestPair.p2()),
+        tablet_.drawLineSeg(place(object.farthestPair.p1()), place(object.farthestPair.p2()),
                             Page::farthestPair.color, kShapes);
         use(Page::meanPosition);
-        tablet_.drawPoint(pair(object.meanPosition), Page::meanPosition.color, kShapes);
+        tablet_.drawPoint(place(object.meanPosition), Page::meanPosition.color, kShapes);
         use(Page::centerOfMass);
-        tablet_.drawPoint(pair(object.centerOfMass), Page::centerOfMass.color, kShapes);
+        tablet_.drawPoint(place(object.centerOfMass), Page::centerOfMass.color, kShapes);
+    }
+
+    // An edgelet region draws its edge points, which are in pixels already.
+    void edges(const EdgeRegion& region) {
+        use(Page::edgePoint);
+        region.draw(tablet_, Page::edgePoint.color, kShapes);
+        for (const gkPtrHandle_const<EdgeRegion>& hole : region.holes()) edges(*hole);
     }
 
     // Above the upper left corner of the object's box, where a round object leaves room.
@@ -55,7 +62,7 @@ public:
         const std::string text = std::to_string(contour.label());
         const double height = 1.2 * page_.textHeight();
         const double width = Page::textWidth(text, height);
-        const gkVector<2> corner = contour.encloseRect(gkXform<2>()).ul() - gkVector<2>(0.0, 0.5 * height);
+        const gkVector<2> corner = contour.encloseRect(toPixels_).ul() - gkVector<2>(0.0, 0.5 * height);
         const gkVector<2> left(std::max(corner.x(), 0.8 * height), std::max(corner.y(), 0.8 * height));
         tablet_.strokeWidth(1.3 * height);
         tablet_.drawLineSeg(pair(left), pair(left + gkVector<2>(width - 0.5 * height, 0.0)),
@@ -81,47 +88,52 @@ public:
 private:
     void contour(const gkContour& contour, const Key& key) {
         use(key);
-        contour.draw(tablet_, gkContourDefs::eDrawOutline, key.color, kShapes);
+        gkContour inPixels;
+        contour.map(toPixels_, inPixels);
+        inPixels.draw(tablet_, gkContourDefs::eDrawOutline, key.color, kShapes);
     }
 
     void ellipse(const gkEllipse& ellipse, const Key& key) {
         use(key);
-        tablet_.drawEllipse(pair(ellipse.center().vector()), pair(ellipse.radii()), ellipse.rotation(),
-                            key.color, kShapes);
+        tablet_.drawEllipse(place(ellipse.center().vector()), pair(ellipse.radii() * pixelsPerUnit_),
+                            ellipse.rotation(), key.color, kShapes);
     }
+
+    gkPair<double> place(const gkVector<2>& inUnits) const { return pair(toPixels_ * inUnits); }
 
     void use(const Key& key) { tablet_.strokeWidth(key.width * page_.pen()); }
 
     const Page& page_;
+    gkXform<2> toPixels_;
+    double pixelsPerUnit_;
     Tablet tablet_;
 };
 
-template <class Tablet>
-void paint(Painter<Tablet>& painter, const Photograph& photograph, const Regions& regions,
-           const std::vector<Measures>& objects) {
-    painter.photograph(photograph);
-    for (const gkPtrHandle<gkRegion>& region : regions) painter.region(*region);
-    for (const Measures& object : objects) painter.measures(object);
-    for (const gkPtrHandle<gkRegion>& region : regions) painter.number(*region);
+template <class Tablet> void paint(Painter<Tablet>& painter, const Scene& scene) {
+    painter.photograph(scene.photograph);
+    for (const Measures& object : scene.measures) painter.measures(object);
+    for (const Object& object : scene.objects) painter.edges(*object.edges);
+    for (const Object& object : scene.objects) painter.outlines(object);
+    for (const Object& object : scene.objects) painter.number(*object.shape);
     painter.legend();
 }
 
-std::filesystem::path withSuffix(std::filesystem::path stem, const char* suffix) { return stem += suffix; }
-
 } // namespace
 
-std::vector<std::filesystem::path> savePictures(const std::filesystem::path& stem, const Photograph& photograph,
-                                                const Regions& regions, const std::vector<Measures>& objects,
-                                                double wantedSide) {
-    const std::vector<std::filesystem::path> files = {withSuffix(stem, ".png"), withSuffix(stem, ".svg"),
-                                                      withSuffix(stem, ".pdf")};
-    const Page page(photograph.width, photograph.height, wantedSide);
-    Painter<gkCairoTablet> cairo(page);
-    paint(cairo, photograph, regions, objects);
-    cairo.tablet().savePng(files[0]);
-    cairo.tablet().savePdf(files[2]);
-    Painter<gkSvgTablet> svg(page);
-    paint(svg, photograph, regions, objects);
-    svg.tablet().save(files[1]);
-    return files;
+void savePicture(const std::filesystem::path& file, const Scene& scene, double wantedSide) {
+    const Page page(scene.photograph.width, scene.photograph.height, wantedSide);
+    if (file.extension() == ".svg") {
+        Painter<gkSvgTablet> painter(page, scene.scale);
+        paint(painter, scene);
+        painter.tablet().save(file);
+    } else {
+        Painter<gkCairoTablet> painter(page, scene.scale);
+        paint(painter, scene);
+        file.extension() == ".pdf" ? painter.tablet().savePdf(file) : painter.tablet().savePng(file);
+    }
+}
+
+bool isPictureName(const std::filesystem::path& file) {
+    const std::filesystem::path suffix = file.extension();
+    return suffix == ".png" || suffix == ".svg" || suffix == ".pdf";
 }

@@ -3,9 +3,10 @@
 #define GK_EXAMPLES_DEMO_PICTURE_H
 
 #include "examples/demo/measure.h"
+#include "examples/demo/object.h"
+#include "examples/demo/scale.h"
 
 #include <filesystem>
-#include <string>
 #include <vector>
 
 struct Photograph {
@@ -14,10 +15,19 @@ struct Photograph {
     std::vector<unsigned char> pngBytes;
 };
 
-// Writes `stem`.png, .svg and .pdf and returns their names. `objects` are the measures of `regions`, in the
-// same order; `wantedSide` is the length the longer side should come to, see Page.
-std::vector<std::filesystem::path> savePictures(const std::filesystem::path& stem, const Photograph& photograph,
-                                                const std::vector<gkPtrHandle<gkRegion>>& regions,
-                                                const std::vector<Measures>& objects, double wantedSide);
+// What a picture of the results shows. `measures` are those of `objects`, in the same order.
+struct Scene {
+    const Photograph& photograph;
+    const std::vector<Object>& objects;
+    const std::vector<Measures>& measures;
+    const Scale& scale;
+};
+
+// Writes the picture as PNG, SVG or PDF, as the file's name says; `wantedSide` is the length the longer side
+// should come to, see Page. Throws gkUITablet::CannotWrite.
+void savePicture(const std::filesystem::path& file, const Scene& scene, double wantedSide);
+
+// True for names that say so.
+bool isPictureName(const std::filesystem::path& file);
 
 #endif

@@ -2,42 +2,42 @@
 
 #include <algorithm>
 #include <charconv>
-#include <iterator>
 #include <system_error>
 
 namespace {
 
 using Cells = std::vector<std::string>;
 
-const Cells kOutlineNames = {"no",       "vertices",  "closed",        "length",     "mean x",
-                             "mean y",   "diameter",  "hull",          "ellipse r1", "r2",
-                             "rotation", "rms error", "crosses itself"};
-const Cells kOutlineUnits = {"", "", "", "px", "px", "px", "px", "vertices", "px", "px", "deg", "px", ""};
+Cells outlineHeading(int line, const std::string& unit) {
+    if (line == 0)
+        return {"no",   "edge points", "left out", "length",   "mean x",    "mean y",        "diameter",
+                "hull", "ellipse r1",  "r2",       "rotation", "rms error", "crosses itself"};
+    return {"", "", "", unit, unit, unit, unit, "vertices", unit, unit, "deg", unit, ""};
+}
 
-const Cells kAreaNames = {"no", "holes",   "area", "filled", "centre of mass x", "y", "moments' ellipse r1",
-                          "r2", "rotation"};
-const Cells kAreaUnits = {"", "", "px^2", "px^2", "px", "px", "px", "px", "deg"};
+Cells areaHeading(int line, const std::string& unit) {
+    if (line == 0)
+        return {"no", "holes",   "area", "filled", "centre of mass x", "y", "moments' ellipse r1",
+                "r2", "rotation"};
+    return {"", "", unit + "^2", unit + "^2", unit, unit, unit, unit, "deg"};
+}
 
 std::string yesNo(bool value) { return value ? "yes" : "no"; }
 
-void addEllipse(const gkEllipse& ellipse, Cells& row) {
-    row.push_back(fixed(ellipse.radii().x(), 2));
-    row.push_back(fixed(ellipse.radii().y(), 2));
+void addEllipse(const gkEllipse& ellipse, int digits, Cells& row) {
+    row.push_back(fixed(ellipse.radii().x(), digits));
+    row.push_back(fixed(ellipse.radii().y(), digits));
     row.push_back(fixed(gkDegree(ellipse.rotation()).toDouble(), 1));
 }
 
-Cells outlineCells(const Measures& object) {
-    Cells row = {std::to_string(object.number),
-                 std::to_string(object.vertices),
-                 yesNo(object.closed),
-                 fixed(object.length, 2),
-                 fixed(object.meanPosition.x(), 2),
-                 fixed(object.meanPosition.y(), 2),
-                 fixed(object.diameter, 2),
-                 std::to_string(object.hull.points().size())};
+Cells outlineCells(const Measures& object, int digits) {
+    Cells row = {std::to_string(object.number),          std::to_string(object.vertices),
+                 std::to_string(object.leftOut),         fixed(object.length, digits),
+                 fixed(object.meanPosition.x(), digits), fixed(object.meanPosition.y(), digits),
+                 fixed(object.diameter, digits),         std::to_string(object.hull.points().size())};
     if (object.fit) {
-        addEllipse(object.fit->ellipse, row);
-        row.push_back(fixed(object.fit->error, 3));
+        addEllipse(object.fit->ellipse, digits, row);
+        row.push_back(fixed(object.fit->error, digits + 1));
     } else {
         row.insert(row.end(), 4, "-");
     }
@@ -45,12 +45,15 @@ Cells outlineCells(const Measures& object) {
     return row;
 }
 
-Cells areaCells(const Measures& object) {
-    Cells row = {
-        std::to_string(object.number), std::to_string(object.holes),      fixed(object.area, 2),
-        fixed(object.filledArea, 2),   fixed(object.centerOfMass.x(), 2), fixed(object.centerOfMass.y(), 2)};
+Cells areaCells(const Measures& object, int digits) {
+    Cells row = {std::to_string(object.number),
+                 std::to_string(object.holes),
+                 fixed(object.area, digits),
+                 fixed(object.filledArea, digits),
+                 fixed(object.centerOfMass.x(), digits),
+                 fixed(object.centerOfMass.y(), digits)};
     if (object.momentsEllipse)
-        addEllipse(*object.momentsEllipse, row);
+        addEllipse(*object.momentsEllipse, digits, row);
     else
         row.insert(row.end(), 3, "-");
     return row;
@@ -64,9 +67,12 @@ std::string line(const Cells& row, const std::vector<std::size_t>& widths) {
     return text + '\n';
 }
 
-std::string table(std::vector<Cells> rows, const std::vector<Measures>& objects,
-                  Cells (*cells)(const Measures&)) {
-    std::transform(objects.begin(), objects.end(), std::back_inserter(rows), cells);
+using Heading = Cells (*)(int line, const std::string& unit);
+using Row = Cells (*)(const Measures& object, int digits);
+
+std::string table(Heading heading, Row cells, const std::vector<Measures>& objects, const Scale& scale) {
+    std::vector<Cells> rows = {heading(0, scale.unit()), heading(1, scale.unit())};
+    for (const Measures& object : objects) rows.push_back(cells(object, scale.digits()));
     std::vector<std::size_t> widths(rows.front().size(), 0);
     for (const Cells& row : rows)
         for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
@@ -88,10 +94,10 @@ std::string counted(std::size_t count, const std::string& noun) {
     return std::to_string(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
-std::string tableOfOutlines(const std::vector<Measures>& objects) {
-    return table({kOutlineNames, kOutlineUnits}, objects, outlineCells);
+std::string tableOfOutlines(const std::vector<Measures>& objects, const Scale& scale) {
+    return table(outlineHeading, outlineCells, objects, scale);
 }
 
-std::string tableOfAreas(const std::vector<Measures>& objects) {
-    return table({kAreaNames, kAreaUnits}, objects, areaCells);
+std::string tableOfAreas(const std::vector<Measures>& objects, const Scale& scale) {
+    return table(areaHeading, areaCells, objects, scale);
 }

@@ -3,14 +3,15 @@
 #define GK_EXAMPLES_DEMO_TABLE_H
 
 #include "examples/demo/measure.h"
+#include "examples/demo/scale.h"
 
 #include <string>
 #include <vector>
 
 // Two heading lines, then one line per object; columns are aligned and numbers
 // written the same way everywhere. One table tells of outlines, the other of the areas inside them.
-std::string tableOfOutlines(const std::vector<Measures>& objects);
-std::string tableOfAreas(const std::vector<Measures>& objects);
+std::string tableOfOutlines(const std::vector<Measures>& objects, const Scale& scale);
+std::string tableOfAreas(const std::vector<Measures>& objects, const Scale& scale);
 
 // `value` with this many digits after the point, which is always a point.
 std::string fixed(double value, int digits);

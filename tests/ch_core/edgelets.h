@@ -24,6 +24,41 @@ inline Transform scale(double factor) {
     return Transform(new gk2XformLinear(gkXform<2>(gkMatrix<2>(factor, 0, 0, factor), {0, 0})));
 }
 
+// The points of the text times `factor` as positions, each with a magnitude and an angle of its own.
+inline std::vector<gkEdgelet> edgelets(const std::string& text, double factor) {
+    std::vector<gkEdgelet> data;
+    for (const gkVector<2>& p : points(text)) {
+        const auto number = static_cast<unsigned char>(data.size() + 1);
+        data.emplace_back(p * factor, number, gkAngle8(number));
+    }
+    return data;
+}
+
+// The identity up to x = 1000, where its picture ends: beyond, mapPoint throws OutOfRange. Counts its inverses
+// and refuses as many as it is told to.
+class LensTransform : public gk2XformBase {
+public:
+    static inline int inversesMade = 0;
+    static inline int inversesRefused = 0;
+
+    gkVector<2> mapPoint(const gkVector<2>& point) const override {
+        if (point.x() > 1000) throw gkMathError::OutOfRange();
+        return point;
+    }
+    Transform inverseBase() const override {
+        if (inversesRefused > 0) {
+            --inversesRefused;
+            throw gkMathError::Singular();
+        }
+        ++inversesMade;
+        return clone();
+    }
+    Transform clone() const override { return Transform(new LensTransform); }
+
+protected:
+    void dispatchSerialize(gkArchive&) override {} // no test archives one
+};
+
 template <class Shape> std::vector<unsigned char> archived(Shape& shape) {
     gkArchiveMemory out;
     out || static_cast<gkPersistent&>(shape);

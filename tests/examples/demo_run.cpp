@@ -1,8 +1,14 @@
 #include "tests/examples/demo_run.h"
 
+#include "platform/core/archive/archive_file.h"
+
+#include <algorithm>
 #include <cctype>
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <iterator>
 #include <random>
 #include <sstream>
@@ -35,6 +41,22 @@ std::vector<std::vector<std::string>> rowsOf(const std::string& printed, std::si
     return rows;
 }
 
+unsigned char levelAt(const std::vector<Disc>& discs, double x, double y) {
+    unsigned char level = kGround;
+    for (const Disc& disc : discs)
+        if (std::hypot(x - disc.x, y - disc.y) <= disc.radius) level = disc.level;
+    return level;
+}
+
+double meanLevel(const std::vector<Disc>& discs, int column, int row) {
+    constexpr int kPlaces = 8; // across and down a pixel
+    double sum = 0.0;
+    for (int i = 0; i < kPlaces; ++i)
+        for (int k = 0; k < kPlaces; ++k)
+            sum += levelAt(discs, column + (k + 0.5) / kPlaces, row + (i + 0.5) / kPlaces);
+    return sum / (kPlaces * kPlaces);
+}
+
 } // namespace
 
 Folder::Folder() {
@@ -61,17 +83,30 @@ Outcome runDemo(const Folder& folder, const std::vector<std::string>& arguments)
     return run;
 }
 
+void expectOneSentence(const Outcome& run, const std::string& part, int status) {
+    EXPECT_EQ(status, run.status);
+    EXPECT_EQ("", run.printed);
+    EXPECT_THAT(run.complaint, testing::StartsWith("demo: "));
+    EXPECT_THAT(run.complaint, testing::HasSubstr(part));
+    EXPECT_THAT(run.complaint, testing::EndsWith(".\n"));
+    EXPECT_EQ(1, std::count(run.complaint.begin(), run.complaint.end(), '\n'));
+}
+
+Archived loadArchive(const std::filesystem::path& file) {
+    Archived archived;
+    gkArchiveFile archive(file, gkArchiveFile::eLoad);
+    archive || archived.regions || archived.edges;
+    archive.close();
+    return archived;
+}
+
 cv::Mat pictureOf(const std::vector<Disc>& discs, int width, int height, bool uneven) {
-    cv::Mat picture(height, width, CV_8UC1, cv::Scalar(kGround));
+    cv::Mat picture(height, width, CV_8UC1);
     for (int row = 0; row < height; ++row) {
         for (int column = 0; column < width; ++column) {
-            unsigned char& pixel = picture.at<unsigned char>(row, column);
-            for (const Disc& disc : discs) {
-                const double x = column + 0.5 - disc.x;
-                const double y = row + 0.5 - disc.y;
-                if (x * x + y * y <= disc.radius * disc.radius) pixel = disc.level;
-            }
-            if (uneven) pixel = static_cast<unsigned char>(pixel + 100 * (width - 1 - column) / width);
+            double light = meanLevel(discs, column, row);
+            if (uneven) light += 100.0 * (width - 1 - column) / width;
+            picture.at<unsigned char>(row, column) = static_cast<unsigned char>(light + 0.5);
         }
     }
     return picture;
@@ -84,6 +119,17 @@ void writeText(const std::filesystem::path& file, const std::string& text) {
 std::string readText(const std::filesystem::path& file) {
     std::ifstream in(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+std::vector<std::vector<std::string>> cellsOf(const std::string& csv) {
+    std::vector<std::vector<std::string>> rows;
+    std::istringstream lines(csv);
+    for (std::string line; std::getline(lines, line);) {
+        rows.emplace_back();
+        std::istringstream cells(line);
+        for (std::string cell; std::getline(cells, cell, ',');) rows.back().push_back(cell);
+    }
+    return rows;
 }
 
 std::vector<std::vector<std::string>> outlinesOf(const std::string& printed) { return rowsOf(printed, 13); }

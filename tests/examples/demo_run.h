@@ -2,6 +2,8 @@
 #ifndef GK_TESTS_EXAMPLES_DEMO_RUN_H
 #define GK_TESTS_EXAMPLES_DEMO_RUN_H
 
+#include "ch_core/cntrtmpl.h"
+
 #include <filesystem>
 #include <opencv2/core.hpp>
 #include <string>
@@ -27,8 +29,22 @@ struct Outcome {
     std::string complaint;
 };
 
+// The lines of comma-separated values, cell by cell.
+std::vector<std::vector<std::string>> cellsOf(const std::string& csv);
+
 // The demo with these arguments; what it printed is kept in the folder while it runs.
 Outcome runDemo(const Folder& folder, const std::vector<std::string>& arguments);
+
+// What the demo keeps in an archive.
+struct Archived {
+    gkRegionSet regions;
+    std::vector<gkPtrHandle_const<gkContourT<gkEdgelet>>> edges;
+};
+
+Archived loadArchive(const std::filesystem::path& file);
+
+// Nothing printed, one sentence of complaint with this in it, and this exit status.
+void expectOneSentence(const Outcome& run, const std::string& part, int status);
 
 struct Disc {
     double x; // of the centre, (0, 0) being the corner of the first pixel
@@ -39,8 +55,8 @@ struct Disc {
 
 constexpr unsigned char kGround = 40;
 
-// Pixels whose centre lies in a disc have the level of the last such disc, all others kGround; lit from the
-// left (100 levels more there) when `uneven`.
+// A place in a disc has the level of the last disc it lies in, all others kGround, and a pixel has the mean of
+// its places; lit from the left (100 levels more there) when `uneven`.
 cv::Mat pictureOf(const std::vector<Disc>& discs, int width, int height, bool uneven);
 
 void writeText(const std::filesystem::path& file, const std::string& text);

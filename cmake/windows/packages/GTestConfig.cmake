@@ -1,0 +1,11 @@
+# Debian's package googletest is the source; it is built along with the tests.
+if(NOT TARGET gtest)
+  if(NOT EXISTS /usr/src/googletest/CMakeLists.txt)
+    message(FATAL_ERROR "/usr/src/googletest is missing; cmake/packages.txt names what to install")
+  endif()
+  set(gk_shared_libraries ${BUILD_SHARED_LIBS})
+  set(BUILD_SHARED_LIBS OFF)
+  set(INSTALL_GTEST OFF CACHE BOOL "Install GoogleTest with us")
+  add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
+  set(BUILD_SHARED_LIBS ${gk_shared_libraries})
+endif()

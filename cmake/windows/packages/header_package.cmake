@@ -1,0 +1,16 @@
+# gk_header_package(TARGET FOLDER): TARGET brings the headers in FOLDER/, and nothing else of the folder's surroundings:
+# beside it are the headers of the building system's C library.
+function(gk_header_package target folder)
+  if(TARGET ${target})
+    return()
+  endif()
+  if(NOT IS_DIRECTORY ${folder})
+    message(FATAL_ERROR "${folder} is missing; cmake/packages.txt names what to install")
+  endif()
+  get_filename_component(name ${folder} NAME)
+  set(room ${CMAKE_BINARY_DIR}/header_packages/${name})
+  file(MAKE_DIRECTORY ${room})
+  file(CREATE_LINK ${folder} ${room}/${name} SYMBOLIC)
+  add_library(${target} INTERFACE IMPORTED GLOBAL)
+  target_include_directories(${target} SYSTEM INTERFACE ${room})
+endfunction()
