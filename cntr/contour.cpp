@@ -7,6 +7,7 @@
 #include "platform/core/math/real.h"
 #include "platform/core/math/xform_ops.h"
 
+#include <array>
 #include <utility>
 
 namespace {
@@ -24,8 +25,8 @@ Step compared(double a, double b) {
     return a > b ? Step::eGreater : Step::eEqual;
 }
 
-template <std::size_t N> bool lexicographicallyLess(const double (&a)[N], const double (&b)[N]) {
-    for (std::size_t i = 0; i < N; ++i) {
+bool lexicographicallyLess(const std::array<double, 5>& a, const std::array<double, 5>& b) {
+    for (std::size_t i = 0; i < a.size(); ++i) {
         const Step step = compared(a[i], b[i]);
         if (step != Step::eEqual) return step == Step::eLess;
     }
@@ -44,11 +45,10 @@ bool gkContour::gsSTLLessPredicate::operator()(const gkRadian& a, const gkRadian
 
 bool gkContour::gsSTLLessPredicate::operator()(const gkXform<2>& a, const gkXform<2>& b) const {
     // Element (1,1) is left out on purpose; see the header before adding it.
-    const double left[] = {a.translation().x(), a.translation().y(), a.matrix().element(0, 0),
-                           a.matrix().element(0, 1), a.matrix().element(1, 0)};
-    const double right[] = {b.translation().x(), b.translation().y(), b.matrix().element(0, 0),
-                            b.matrix().element(0, 1), b.matrix().element(1, 0)};
-    return lexicographicallyLess(left, right);
+    const std::array<double, 4> left = a.matrix().elements();
+    const std::array<double, 4> right = b.matrix().elements();
+    return lexicographicallyLess({a.translation().x(), a.translation().y(), left[0], left[1], left[2]},
+                                 {b.translation().x(), b.translation().y(), right[0], right[1], right[2]});
 }
 
 bool gkContour::gsSTLLessPredicate::operator()(const gkPair<long>& a, const gkPair<long>& b) const {

@@ -25,13 +25,13 @@ const std::vector<bool>& gkContour::validLine() const {
 
 gkVector<2> gkContour::closestPoint(const gkVector<2>& p, bool verticesOnly) const {
     checkEmptyContour();
-    if (verticesOnly) return value_.points[search().nearestVertex(value_.points, p)];
+    if (verticesOnly) return value_.points[search().nearestVertex(value_.points, isClosed(), p)];
     return search().nearestPoint(gk_Segments(value_.points, isClosed()), p);
 }
 
 long gkContour::closestVertexIndex(const gkVector<2>& p) const {
     checkEmptyContour();
-    return gk_IndexAs<long>(search().nearestVertex(value_.points, p));
+    return gk_IndexAs<long>(search().nearestVertex(value_.points, isClosed(), p));
 }
 
 double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {

@@ -1,17 +1,20 @@
 #include "cntr/search/box_hierarchy.h"
 
-gk_BoxHierarchy::gk_BoxHierarchy(std::vector<gk_Box> leaves) : boxes_(std::move(leaves)) {
+gk_BoxHierarchy::gk_BoxHierarchy(const std::vector<gk_Box>& leaves) : box_(leaves.front()) {
     constexpr std::size_t kMostLevels = 12;
-    boxes_.reserve(boxes_.size() + boxes_.size() / (kFan - 1) + kMostLevels);
-    levelStarts_.push_back(0);
-    for (std::size_t begin = 0, end = boxes_.size(); end - begin > 1;
-         begin = levelStarts_.back(), end = boxes_.size()) {
-        levelStarts_.push_back(end);
-        for (std::size_t child = begin; child < end; child += kFan) {
-            gk_Box box = boxes_[child];
-            for (std::size_t i = child + 1; i < std::min(child + kFan, end); ++i)
-                box = box.enclosing(boxes_[i]);
-            boxes_.push_back(box);
+    eights_.reserve((leaves.size() + kFan - 2) / (kFan - 1) + kMostLevels);
+    for (std::vector<gk_Box> boxes = leaves, above; boxes.size() > 1; boxes.swap(above)) {
+        levels_.push_back({eights_.size(), boxes.size()});
+        above.clear();
+        for (std::size_t first = 0; first < boxes.size(); first += kFan) {
+            gk_EightBoxes& eight = eights_.emplace_back();
+            gk_Box all = boxes[first];
+            for (std::size_t i = first; i < std::min(first + kFan, boxes.size()); ++i) {
+                eight.set(i - first, boxes[i]);
+                all = all.enclosing(boxes[i]);
+            }
+            above.push_back(all);
         }
+        box_ = above.front();
     }
 }

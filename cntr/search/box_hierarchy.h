@@ -2,7 +2,7 @@
 #ifndef GK_CNTR_SEARCH_BOX_HIERARCHY_H
 #define GK_CNTR_SEARCH_BOX_HIERARCHY_H
 
-#include "cntr/search/box.h"
+#include "cntr/search/eight_boxes.h"
 
 #include <array>
 #include <cstddef>
@@ -13,14 +13,14 @@
 // order in which neighbours are near each other. 32 bytes per box and a seventh more.
 class gk_BoxHierarchy {
 public:
-    static constexpr std::size_t kFan = 8;
+    static constexpr std::size_t kFan = gk_EightBoxes::kCount;
 
     gk_BoxHierarchy() = default;
     // There must be a box.
-    explicit gk_BoxHierarchy(std::vector<gk_Box> leaves);
+    explicit gk_BoxHierarchy(const std::vector<gk_Box>& leaves);
 
-    const gk_Box& box() const { return boxes_.back(); }
-    const gk_Box& leaf(std::size_t position) const { return boxes_[position]; }
+    const gk_Box& box() const { return box_; }
+    gk_Box leaf(std::size_t position) const { return boxAt(0, position); }
 
     // Calls visit(leaf) for every leaf whose box, and whose every box above, wanted(box) accepts. In no order.
     // A visit that returns true ends it; tells whether one did.
@@ -33,13 +33,41 @@ public:
                 if (visit(node.position)) return true;
                 continue;
             }
-            const gk_Box* const below = level(node.level - 1);
-            const Range children = childrenOf(node.level, node.position);
-            for (std::size_t child = children.begin; child < children.end; ++child) {
-                if (wanted(below[child])) pending.push({node.level - 1, child, 0.0});
-            }
+            const gk_EightBoxes& below = under(node.level, node.position);
+            const std::size_t count = countUnder(node.level, node.position);
+            for (std::size_t i = 0; i < count; ++i)
+                if (wanted(below.box(i))) pending.push({node.level - 1, node.position * kFan + i, 0.0});
         }
         return false;
+    }
+
+    // Calls visit(leaf) for the leaves in no order but that those near p tend to come first, as far as the
+    // squared distance of their box and of every box above does not exceed limit(), which visits may lower.
+    template <class Limit, class Visit> void nearestTo(const gkVector<2>& p, Limit limit, Visit visit) const {
+        if (top() == 0) {
+            visit(0);
+            return;
+        }
+        Pending pending;
+        pending.push({top(), 0, 0.0});
+        while (!pending.empty()) {
+            const Node node = pending.pop();
+            if (node.key > limit()) continue;
+            const gk_EightBoxes::Numbers keys = under(node.level, node.position).distances2(p);
+            const std::size_t count = countUnder(node.level, node.position);
+            const std::size_t first = node.position * kFan;
+            if (node.level > 1) {
+                pushNearestLast(pending, node.level - 1, first, keys, count, limit());
+                continue;
+            }
+            const auto nearest = static_cast<std::size_t>(
+                std::min_element(keys.begin(), keys.begin() + static_cast<std::ptrdiff_t>(count)) -
+                keys.begin());
+            if (keys[nearest] > limit()) continue;
+            visit(first + nearest);
+            for (std::size_t i = 0; i < count; ++i)
+                if (i != nearest && !(keys[i] > limit())) visit(first + i);
+        }
     }
 
     // Calls visit(leaf) for the leaves nearest first, as far as nearness(box) does not exceed limit(), which
@@ -55,19 +83,11 @@ public:
                 visit(node.position);
                 continue;
             }
-            const gk_Box* const below = level(node.level - 1);
-            // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
-            std::array<Node, kFan> nearer;
-            std::size_t count = 0;
-            const Range children = childrenOf(node.level, node.position);
-            for (std::size_t child = children.begin; child < children.end; ++child) {
-                const double key = nearness(below[child]);
-                if (key > limit()) continue;
-                std::size_t place = count++;
-                for (; place > 0 && nearer[place - 1].key < key; --place) nearer[place] = nearer[place - 1];
-                nearer[place] = {node.level - 1, child, key};
-            }
-            for (std::size_t i = 0; i < count; ++i) pending.push(nearer[i]);
+            gk_EightBoxes::Numbers keys;
+            const gk_EightBoxes& below = under(node.level, node.position);
+            const std::size_t count = countUnder(node.level, node.position);
+            for (std::size_t i = 0; i < count; ++i) keys[i] = nearness(below.box(i));
+            pushNearestLast(pending, node.level - 1, node.position * kFan, keys, count, limit());
         }
     }
 
@@ -84,17 +104,20 @@ private:
         std::size_t position;
         double key;
     };
-    struct Range {
-        std::size_t begin;
-        std::size_t end;
-    };
 
     // Depth first: every level leaves at most kFan boxes behind, and 2^32 leaves have 11 levels.
     // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
     class Pending {
     public:
         bool empty() const { return size_ == 0; }
+        std::size_t size() const { return size_; }
         void push(const Node& node) { nodes_[size_++] = node; }
+        // Before those, from position `from` on, that are nearer.
+        void pushBeforeNearer(const Node& node, std::size_t from) {
+            std::size_t place = size_++;
+            for (; place > from && nodes_[place - 1].key < node.key; --place) nodes_[place] = nodes_[place - 1];
+            nodes_[place] = node;
+        }
         Node pop() { return nodes_[--size_]; }
 
     private:
@@ -102,22 +125,37 @@ private:
         std::size_t size_ = 0;
     };
 
-    std::size_t top() const { return levelStarts_.size() - 1; }
-    const gk_Box* level(std::size_t level) const { return boxes_.data() + levelStarts_[level]; }
-    Range childrenOf(std::size_t level, std::size_t position) const {
-        const std::size_t begin = position * kFan;
-        return {begin, std::min(begin + kFan, levelStarts_[level] - levelStarts_[level - 1])};
+    static void pushNearestLast(Pending& pending, std::size_t level, std::size_t first,
+                                const gk_EightBoxes::Numbers& keys, std::size_t count, double limit) {
+        const std::size_t from = pending.size();
+        for (std::size_t i = 0; i < count; ++i)
+            if (!(keys[i] > limit)) pending.pushBeforeNearer({level, first + i, keys[i]}, from);
+    }
+
+    std::size_t top() const { return levels_.size(); }
+    const gk_EightBoxes& under(std::size_t level, std::size_t position) const {
+        return eights_[levels_[level - 1].first + position];
+    }
+    std::size_t countUnder(std::size_t level, std::size_t position) const {
+        return std::min(levels_[level - 1].count - position * kFan, kFan);
+    }
+    gk_Box boxAt(std::size_t level, std::size_t position) const {
+        return level == top() ? box_ : under(level + 1, position / kFan).box(position % kFan);
     }
 
     template <class Wanted, class Visit>
     bool anyPairWithin(std::size_t at, std::size_t position, Wanted& wanted, Visit& visit) const {
         if (at == 0) return visit(position, position);
-        const gk_Box* const below = level(at - 1);
-        const Range children = childrenOf(at, position);
-        for (std::size_t i = children.begin; i < children.end; ++i) {
-            if (anyPairWithin(at - 1, i, wanted, visit)) return true;
-            for (std::size_t j = i + 1; j < children.end; ++j)
-                if (wanted(below[i], below[j]) && anyPairOf(at - 1, i, j, wanted, visit)) return true;
+        const gk_EightBoxes& below = under(at, position);
+        const std::size_t count = countUnder(at, position);
+        const std::size_t first = position * kFan;
+        for (std::size_t i = 0; i < count; ++i) {
+            if (anyPairWithin(at - 1, first + i, wanted, visit)) return true;
+            for (std::size_t j = i + 1; j < count; ++j) {
+                if (wanted(below.box(i), below.box(j)) &&
+                    anyPairOf(at - 1, first + i, first + j, wanted, visit))
+                    return true;
+            }
         }
         return false;
     }
@@ -125,19 +163,31 @@ private:
     template <class Wanted, class Visit>
     bool anyPairOf(std::size_t at, std::size_t one, std::size_t other, Wanted& wanted, Visit& visit) const {
         if (at == 0) return visit(one, other);
-        const gk_Box* const below = level(at - 1);
-        const Range ones = childrenOf(at, one);
-        const Range others = childrenOf(at, other);
-        for (std::size_t i = ones.begin; i < ones.end; ++i) {
-            if (!wanted(below[i], level(at)[other])) continue;
-            for (std::size_t j = others.begin; j < others.end; ++j)
-                if (wanted(below[i], below[j]) && anyPairOf(at - 1, i, j, wanted, visit)) return true;
+        const gk_EightBoxes& ones = under(at, one);
+        const gk_EightBoxes& others = under(at, other);
+        const std::size_t count = countUnder(at, one);
+        const std::size_t otherCount = countUnder(at, other);
+        const gk_Box otherBox = boxAt(at, other);
+        for (std::size_t i = 0; i < count; ++i) {
+            if (!wanted(ones.box(i), otherBox)) continue;
+            for (std::size_t j = 0; j < otherCount; ++j) {
+                if (wanted(ones.box(i), others.box(j)) &&
+                    anyPairOf(at - 1, one * kFan + i, other * kFan + j, wanted, visit))
+                    return true;
+            }
         }
         return false;
     }
 
-    std::vector<gk_Box> boxes_; // the leaves, then level by level up to the one box of all
-    std::vector<std::size_t> levelStarts_;
+    // A level's boxes, eight by eight.
+    struct Level {
+        std::size_t first; // of eights_
+        std::size_t count; // of boxes
+    };
+
+    gk_Box box_{};
+    std::vector<gk_EightBoxes> eights_; // the leaves, then level by level up to below the one box of all
+    std::vector<Level> levels_;
 };
 
 #endif

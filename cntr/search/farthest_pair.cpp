@@ -86,8 +86,7 @@ gk_VertexPair gk_FarthestPair(const std::vector<gkVector<2>>& points, const std:
                 farthest.offer(i, j);
         return false;
     };
-    gk_BoxHierarchy(std::move(boxes))
-        .anyPair([&](const gk_Box& a, const gk_Box& b) { return farthest.mayBeat(greatestSquare(a, b)); },
-                 offerAll);
+    gk_BoxHierarchy(boxes).anyPair(
+        [&](const gk_Box& a, const gk_Box& b) { return farthest.mayBeat(greatestSquare(a, b)); }, offerAll);
     return farthest.pair();
 }

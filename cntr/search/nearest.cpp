@@ -1,5 +1,6 @@
 #include "cntr/search/nearest.h"
 
+#include "cntr/search/cell_block.h"
 #include "cntr/search/magnitude.h"
 #include "platform/core/shapes/line_ops.h"
 
@@ -24,6 +25,7 @@ public:
     }
 
     std::size_t index() const { return index_; }
+    double distance() const { return distance_; }
     // No box whose squared distance exceeds this can hold a better one.
     double farther2(double slack) const { return gk_FartherSquare(distance_, slack); }
 
@@ -46,6 +48,31 @@ bool isTooShort(const gk_Box& box) {
 bool mayHoldTooShort(const gk_Box& box) {
     const auto isNearZero = [](double low, double high) { return low < 1e-120 && high > -1e-120; };
     return isNearZero(box.x0, box.x1) || isNearZero(box.y0, box.y1);
+}
+
+// Offers what is listed in the cells around p until all the rest is certainly farther than the best; false when
+// that takes more than a walk down a tree does.
+template <class Offer>
+bool isFoundInCells(const gk_SegmentCells& cells, const gkVector<2>& p, const Best& best, Offer offer) {
+    constexpr std::size_t kMostListed = 64;
+    constexpr int kMostSteps = 6;
+    const gk_CellGrid& grid = cells.grid();
+    if (!grid.box().holds(p)) return false;
+    const double slack = slackOf(grid.reach(), p);
+    gk_CellBlock block(grid, p);
+    std::size_t listed = 0;
+    const auto offerCell = [&](std::size_t column, std::size_t row) {
+        const gk_SegmentCells::List segments = cells.segmentsIn(column, row);
+        listed += segments.size();
+        if (listed > kMostListed) return;
+        for (const std::uint32_t k : segments) offer(k);
+    };
+    block.eachCell(offerCell);
+    for (int step = 0; !(best.distance() + slack < block.clearance()); ++step) {
+        if (step == kMostSteps || listed > kMostListed) return false;
+        block.grow(offerCell);
+    }
+    return listed <= kMostListed;
 }
 
 } // namespace
@@ -79,17 +106,30 @@ std::size_t gk_NearestSegment(const gk_Segments& segments, const gk_SegmentTree&
     const double slack = slackOf(tree.reach(), p);
     Best best(kNoSegment);
     double farther2 = kInfinity;
-    tree.nearestFirst([&](const gk_Box& box) { return box.distance2(p); }, [&] { return farther2; },
-                      [&](std::size_t run) {
-                          const gk_SegmentTree::Range range = tree.segmentsOf(run);
-                          for (std::size_t k = range.begin; k < range.end; ++k) {
-                              const gkLineSeg segment(segments.first(k), segments.second(k));
-                              if (gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2) continue;
-                              if (best.offer(gk_LineOps::distToPoint(segment, p), k))
-                                  farther2 = best.farther2(slack);
-                          }
-                      });
+    tree.nearestTo(
+        p, [&] { return farther2; },
+        [&](std::size_t run) {
+            const gk_SegmentTree::Range range = tree.segmentsOf(run);
+            for (std::size_t k = range.begin; k < range.end; ++k) {
+                const gkLineSeg segment(segments.first(k), segments.second(k));
+                if (gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2) continue;
+                if (best.offer(gk_LineOps::distToPoint(segment, p), k)) farther2 = best.farther2(slack);
+            }
+        });
     return best.index();
+}
+
+std::optional<std::size_t> gk_NearestSegment(const gk_Segments& segments, const gk_SegmentCells& cells,
+                                             const gkVector<2>& p) {
+    const double slack = slackOf(cells.grid().reach(), p);
+    Best best(kNoSegment);
+    double farther2 = kInfinity;
+    const bool isFound = isFoundInCells(cells, p, best, [&](std::size_t k) {
+        const gkLineSeg segment(segments.first(k), segments.second(k));
+        if (gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2) return;
+        if (best.offer(gk_LineOps::distToPoint(segment, p), k)) farther2 = best.farther2(slack);
+    });
+    return isFound ? std::optional<std::size_t>(best.index()) : std::nullopt;
 }
 
 std::size_t gk_NearestVertex(const std::vector<gkVector<2>>& points, const gkVector<2>& p) {
@@ -110,12 +150,34 @@ std::size_t gk_NearestVertex(const std::vector<gkVector<2>>& points, const gk_Ve
     const double slack = slackOf(tree.reach(), p);
     Best best(points.size());
     double farther2 = kInfinity;
-    tree.nearestFirst([&](const gk_Box& box) { return box.distance2(p); }, [&] { return farther2; },
-                      [&](std::size_t i) {
-                          const gkVector<2> offset = p - points[i];
-                          if (gk_VectorOps::dot(offset, offset) > farther2) return;
-                          if (best.offer(gk_VectorOps::distance(points[i], p), i))
-                              farther2 = best.farther2(slack);
-                      });
+    tree.nearestTo(
+        p, [&] { return farther2; },
+        [&](std::size_t i) {
+            const gkVector<2> offset = p - points[i];
+            if (gk_VectorOps::dot(offset, offset) > farther2) return;
+            if (best.offer(gk_VectorOps::distance(points[i], p), i)) farther2 = best.farther2(slack);
+        });
     return best.index();
+}
+
+// The segment that ends at a vertex, or for an open outline's first one begins there, is listed where it lies.
+std::optional<std::size_t> gk_NearestVertex(const gk_Segments& outline, const gk_SegmentCells& cells,
+                                            const gkVector<2>& p) {
+    const double slack = slackOf(cells.grid().reach(), p);
+    Best best(outline.vertexCount());
+    double farther2 = kInfinity;
+    const auto offer = [&](std::size_t i) {
+        const gkVector<2> offset = p - outline.vertex(i);
+        if (gk_VectorOps::dot(offset, offset) > farther2) return;
+        if (best.offer(gk_VectorOps::distance(outline.vertex(i), p), i)) farther2 = best.farther2(slack);
+    };
+    const bool isFound = isFoundInCells(cells, p, best, [&](std::size_t k) {
+        if (outline.closed()) {
+            offer(k);
+            return;
+        }
+        offer(k + 1);
+        if (k == 0) offer(0);
+    });
+    return isFound ? std::optional<std::size_t>(best.index()) : std::nullopt;
 }

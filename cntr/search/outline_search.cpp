@@ -4,6 +4,7 @@
 #include "cntr/inside_count.h"
 #include "cntr/measures.h"
 #include "cntr/search/farthest_pair.h"
+#include "cntr/search/inside_cells.h"
 #include "cntr/search/inside_scan.h"
 #include "cntr/search/nearest.h"
 #include "cntr/search/outer_vertices.h"
@@ -21,6 +22,12 @@ constexpr std::uint32_t kCellsFrom = 4;
 // scans.
 constexpr std::uint32_t kOuterFrom = 8;
 
+// Counts a question; true from the given one on.
+bool isFrom(std::uint32_t question, std::uint32_t& asked) {
+    if (asked < question) ++asked;
+    return asked == question;
+}
+
 } // namespace
 
 const gk_SegmentTree* gk_OutlineSearch::tree(const gk_Segments& outline) {
@@ -33,36 +40,64 @@ const gk_SegmentTree* gk_OutlineSearch::tree(const gk_Segments& outline) {
 }
 
 const gk_SegmentTree* gk_OutlineSearch::treeWhenAsked(const gk_Segments& outline) {
-    return treeTried_ || ++asked_ < kTreeFrom ? tree_.get() : tree(outline);
+    return isFrom(kTreeFrom, asked_) ? tree(outline) : tree_.get();
+}
+
+const gk_VertexTree* gk_OutlineSearch::vertexTree(const Points& points) {
+    if (!vertexTreeTried_ && points.size() >= kFewestForTree) {
+        if (std::optional<gk_VertexTree> built = gk_VertexTree::of(points))
+            vertexTree_ = std::make_shared<const gk_VertexTree>(*std::move(built));
+        vertexTreeTried_ = true;
+    }
+    return vertexTree_.get();
 }
 
 const gk_VertexTree* gk_OutlineSearch::vertexTreeWhenAsked(const Points& points) {
-    if (vertexTreeTried_ || points.size() < kFewestForTree || ++askedVertices_ < kTreeFrom)
-        return vertexTree_.get();
-    if (std::optional<gk_VertexTree> built = gk_VertexTree::of(points))
-        vertexTree_ = std::make_shared<const gk_VertexTree>(*std::move(built));
-    vertexTreeTried_ = true;
-    return vertexTree_.get();
+    return isFrom(kTreeFrom, askedVertices_) ? vertexTree(points) : vertexTree_.get();
+}
+
+const gk_SegmentCells* gk_OutlineSearch::cells(const gk_Segments& outline) {
+    if (!cells_ && !cellsTried_ && outline.size() >= kFewestForTree) {
+        if (const std::optional<gk_CellGrid> grid = gk_CellGrid::of(outline))
+            cells_ = std::make_shared<const gk_SegmentCells>(*grid, outline);
+        cellsTried_ = true;
+    }
+    return cells_.get();
+}
+
+// The cells of an outline that most places are near; of any other they would seldom know what is nearest.
+const gk_SegmentCells* gk_OutlineSearch::crowdedCells(const gk_Segments& outline) {
+    if (!cells_ && !crowdTried_ && outline.size() >= kFewestForTree) {
+        const std::optional<gk_CellGrid> grid = gk_CellGrid::of(outline);
+        if (grid && grid->isCrowded()) cells_ = std::make_shared<const gk_SegmentCells>(*grid, outline);
+        crowdTried_ = true;
+    }
+    return cells_ && cells_->grid().isCrowded() ? cells_.get() : nullptr;
 }
 
 const gk_OutlineSearch::InsideIndex* gk_OutlineSearch::insideIndexWhenAsked(const gk_Segments& outline,
                                                                             double rayLength) {
-    if (inside_ != nullptr || ++askedInside_ < kCellsFrom || tree(outline) == nullptr) return inside_.get();
-    const gk_InsideCertificate certificate(outline.vertexCount(), outline.vertex(0), rayLength, tree_->box());
-    inside_ = std::make_shared<const InsideIndex>(
-        InsideIndex{certificate, gk_InsideCells::of(outline, *tree_, certificate)});
+    if (inside_ || !isFrom(kCellsFrom, askedInside_) || !cells(outline)) return inside_.get();
+    const gk_InsideCertificate certificate(outline.vertexCount(), outline.vertex(0), rayLength,
+                                           cells_->grid().box());
+    inside_ = std::make_shared<const InsideIndex>(InsideIndex{certificate, cells_});
     return inside_.get();
 }
 
-std::size_t gk_OutlineSearch::nearestVertex(const Points& points, const gkVector<2>& p) {
-    const gk_VertexTree* const index = vertexTreeWhenAsked(points);
-    return index == nullptr || !gk_IsModerate(p) ? gk_NearestVertex(points, p)
-                                                 : gk_NearestVertex(points, *index, p);
+std::size_t gk_OutlineSearch::nearestVertex(const Points& points, bool closed, const gkVector<2>& p) {
+    if (!gk_IsModerate(p) || points.size() < kFewestForTree || !isFrom(kTreeFrom, askedVertices_))
+        return gk_NearestVertex(points, p);
+    const gk_Segments outline(points, closed);
+    if (const gk_SegmentCells* const index = crowdedCells(outline)) {
+        if (const std::optional<std::size_t> nearest = gk_NearestVertex(outline, *index, p)) return *nearest;
+    }
+    const gk_VertexTree* const index = vertexTree(points);
+    return index == nullptr ? gk_NearestVertex(points, p) : gk_NearestVertex(points, *index, p);
 }
 
 std::vector<int> gk_OutlineSearch::verticesWithin(const Points& points, const gkVector<2>& p,
                                                   double tolerance) {
-    return cells_.near(points, vertexTreeWhenAsked(points), p, tolerance);
+    return vertexCells_.near(points, vertexTreeWhenAsked(points), p, tolerance);
 }
 
 const std::vector<std::uint32_t>* gk_OutlineSearch::outerVertices(const Points& points) {
@@ -74,7 +109,7 @@ const std::vector<std::uint32_t>* gk_OutlineSearch::outerVertices(const Points& 
 }
 
 const std::vector<std::uint32_t>* gk_OutlineSearch::outerVerticesWhenAsked(const Points& points) {
-    return outerTried_ || ++askedOuter_ < kOuterFrom ? outer_.get() : outerVertices(points);
+    return isFrom(kOuterFrom, askedOuter_) ? outerVertices(points) : outer_.get();
 }
 
 long gk_OutlineSearch::extremalVertex(const Points& points, const gkRadian& angle) {
@@ -98,10 +133,18 @@ void gk_OutlineSearch::circleOverFarthestPair(const Points& points, gkCircle& ci
         circle = gkCircle((points[pair.first] + points[pair.second]) / 2.0, pair.distance / 2.0);
 }
 
+std::size_t gk_OutlineSearch::nearestSegment(const gk_Segments& outline, const gkVector<2>& p) {
+    if (!gk_IsModerate(p) || outline.size() < kFewestForTree || !isFrom(kTreeFrom, asked_))
+        return gk_NearestSegment(outline, p);
+    if (const gk_SegmentCells* const index = crowdedCells(outline)) {
+        if (const std::optional<std::size_t> nearest = gk_NearestSegment(outline, *index, p)) return *nearest;
+    }
+    const gk_SegmentTree* const index = tree(outline);
+    return index == nullptr ? gk_NearestSegment(outline, p) : gk_NearestSegment(outline, *index, p);
+}
+
 gkVector<2> gk_OutlineSearch::nearestPoint(const gk_Segments& outline, const gkVector<2>& p) {
-    const gk_SegmentTree* const index = treeWhenAsked(outline);
-    const std::size_t nearest = index == nullptr || !gk_IsModerate(p) ? gk_NearestSegment(outline, p)
-                                                                      : gk_NearestSegment(outline, *index, p);
+    const std::size_t nearest = nearestSegment(outline, p);
     if (nearest == kNoSegment) return gkVector<2>();
     return gk_LineOps::closestPoint(gkLineSeg(outline.first(nearest), outline.second(nearest)), p);
 }
@@ -126,7 +169,8 @@ bool gk_OutlineSearch::crossesItself(const gk_Segments& outline, const gk_Box& k
 
 long gk_OutlineSearch::insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength,
                                    bool bothWays) {
-    const gk_SegmentTree* const index = treeWhenAsked(outline);
+    // The plain ray sorts all directions, which takes longer than to build the tree.
+    const gk_SegmentTree* const index = tree(outline);
     const std::optional<gkVector<2>> direction = index == nullptr || !gk_IsModerate(point)
                                                      ? gk_RayDirection(outline, point)
                                                      : gk_RayDirection(outline, *index, point);
@@ -147,11 +191,13 @@ gk_Inside gk_OutlineSearch::inside(const gk_Segments& outline, const gkVector<2>
         return certificate.allowsRaysFrom(point) ? gk_ScanInside(outline, certificate, point)
                                                  : gk_Inside::eUnknown;
     }
-    if (!index->cells || !index->certificate.isExact()) return gk_Inside::eUnknown;
+    if (!index->certificate.isExact()) return gk_Inside::eUnknown;
     if (!index->certificate.allowsRaysFrom(point)) {
-        const std::optional<gkVector<2>> direction = gk_RayDirection(outline, *tree_, point);
+        const gk_SegmentTree* const boxes = tree(outline);
+        if (boxes == nullptr) return gk_Inside::eUnknown;
+        const std::optional<gkVector<2>> direction = gk_RayDirection(outline, *boxes, point);
         if (!direction) return gk_Inside::eInside;
         if (!index->certificate.allowsEnd(point + *direction * rayLength)) return gk_Inside::eUnknown;
     }
-    return index->cells->at(outline, *tree_, index->certificate, point);
+    return gk_InsideByCells(outline, *index->cells, index->certificate, point);
 }

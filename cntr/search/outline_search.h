@@ -4,7 +4,8 @@
 #define GK_CNTR_SEARCH_OUTLINE_SEARCH_H
 
 #include "cntr/crossings.h"
-#include "cntr/search/inside_cells.h"
+#include "cntr/search/inside_certificate.h"
+#include "cntr/search/segment_cells.h"
 #include "cntr/search/segment_tree.h"
 #include "cntr/search/vertex_cells.h"
 #include "cntr/search/vertex_tree.h"
@@ -28,11 +29,11 @@ class gk_OutlineSearch {
 public:
     using Points = std::vector<gkVector<2>>;
 
-    std::size_t nearestVertex(const Points& points, const gkVector<2>& p);
+    std::size_t nearestVertex(const Points& points, bool closed, const gkVector<2>& p);
     // In the order of gk_VertexCells.
     std::vector<int> verticesWithin(const Points& points, const gkVector<2>& p, double tolerance);
     // This tolerance has been asked for.
-    bool holdsCells(double tolerance) const { return cells_.holds(tolerance); }
+    bool holdsCells(double tolerance) const { return vertexCells_.holds(tolerance); }
 
     // The measures of cntr/measures.h.
     long extremalVertex(const Points& points, const gkRadian& angle);
@@ -58,26 +59,33 @@ public:
 private:
     struct InsideIndex {
         gk_InsideCertificate certificate;
-        std::optional<gk_InsideCells> cells;
+        std::shared_ptr<const gk_SegmentCells> cells;
     };
 
     const gk_SegmentTree* tree(const gk_Segments& outline);
     const gk_SegmentTree* treeWhenAsked(const gk_Segments& outline);
+    const gk_VertexTree* vertexTree(const Points& points);
     const gk_VertexTree* vertexTreeWhenAsked(const Points& points);
+    const gk_SegmentCells* cells(const gk_Segments& outline);
+    const gk_SegmentCells* crowdedCells(const gk_Segments& outline);
     const std::vector<std::uint32_t>* outerVertices(const Points& points);
     const std::vector<std::uint32_t>* outerVerticesWhenAsked(const Points& points);
+    std::size_t nearestSegment(const gk_Segments& outline, const gkVector<2>& p);
     const InsideIndex* insideIndexWhenAsked(const gk_Segments& outline, double rayLength);
 
     std::shared_ptr<const gk_SegmentTree> tree_;
     std::shared_ptr<const gk_VertexTree> vertexTree_;
     std::shared_ptr<const InsideIndex> inside_;
     std::shared_ptr<const std::vector<std::uint32_t>> outer_;
-    gk_VertexCells cells_;
+    std::shared_ptr<const gk_SegmentCells> cells_;
+    gk_VertexCells vertexCells_;
     std::uint32_t asked_ = 0;
     std::uint32_t askedVertices_ = 0;
     std::uint32_t askedInside_ = 0;
     std::uint32_t askedOuter_ = 0;
     bool treeTried_ = false;
+    bool cellsTried_ = false;
+    bool crowdTried_ = false;
     bool vertexTreeTried_ = false;
     bool outerTried_ = false;
 };

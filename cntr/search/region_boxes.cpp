@@ -59,5 +59,5 @@ void gk_RegionBoxes::order(const std::vector<gk_Box>& boxes) {
     std::vector<gk_Box> leaves;
     leaves.reserve(boxes.size());
     for (const std::uint32_t number : numbers_) leaves.push_back(boxes[number]);
-    boxes_ = gk_BoxHierarchy(std::move(leaves));
+    boxes_ = gk_BoxHierarchy(leaves);
 }

@@ -16,6 +16,16 @@ bool isModerate(const gkVector<2>& a, const gkVector<2>& b) {
 
 } // namespace
 
+std::optional<gk_Box> gk_OutlineBox(const gk_Segments& outline) {
+    if (outline.size() == 0 || outline.size() > UINT32_MAX / 2) return std::nullopt;
+    gk_Box box = gk_Box::of(outline.first(0), outline.first(0));
+    for (std::size_t k = 0; k < outline.size(); ++k) {
+        if (!isModerate(outline.first(k), outline.second(k))) return std::nullopt;
+        box = box.enclosing(gk_Box::of(outline.second(k), outline.second(k)));
+    }
+    return box;
+}
+
 std::optional<gk_SegmentTree> gk_SegmentTree::of(const gk_Segments& segments) {
     gk_SegmentTree tree;
     std::vector<gk_Box> runBoxes;
@@ -57,5 +67,5 @@ void gk_SegmentTree::order(const std::vector<gk_Box>& runBoxes) {
     std::vector<gk_Box> leaves;
     leaves.reserve(runs_.size());
     for (const std::uint32_t run : runs_) leaves.push_back(runBoxes[run]);
-    boxes_ = gk_BoxHierarchy(std::move(leaves));
+    boxes_ = gk_BoxHierarchy(leaves);
 }

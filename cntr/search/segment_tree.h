@@ -45,6 +45,9 @@ public:
     void nearestFirst(Nearness nearness, Limit limit, Visit visit) const {
         boxes_.nearestFirst(nearness, limit, [&](std::size_t leaf) { visit(runs_[leaf]); });
     }
+    template <class Limit, class Visit> void nearestTo(const gkVector<2>& p, Limit limit, Visit visit) const {
+        boxes_.nearestTo(p, limit, [&](std::size_t leaf) { visit(runs_[leaf]); });
+    }
     // Calls visit(run, box, other, box of the other) for runs whose boxes overlap.
     template <class Visit> bool anyPair(Visit visit) const {
         return boxes_.anyPair([](const gk_Box& a, const gk_Box& b) { return a.overlaps(b); },
@@ -66,6 +69,9 @@ private:
     gk_BoxHierarchy boxes_;
     std::vector<std::uint32_t> runs_; // the leaves'
 };
+
+// The box of an outline within the bounds of magnitude.h; none for others and for one without a segment.
+std::optional<gk_Box> gk_OutlineBox(const gk_Segments& outline);
 
 // The box of some consecutive segments.
 gk_Box gk_RunBox(const gk_Segments& segments, gk_SegmentTree::Range range);

@@ -3,30 +3,74 @@
 #include "cntr/search/magnitude.h"
 #include "cntr/search/space_order.h"
 
+namespace {
+
+gk_Box boxOf(const gkVector<2>& point) { return gk_Box::of(point, point); }
+
+double halfGirth(const gk_Box& box) { return (box.x1 - box.x0) + (box.y1 - box.y0); }
+
+// Whether runs are at most twice as large as groups of vertices that are spread evenly over the box.
+bool areCompact(const std::vector<gk_Box>& runBoxes, const gk_Box& all) {
+    double sum = 0.0;
+    for (const gk_Box& box : runBoxes) sum += halfGirth(box);
+    const auto count = static_cast<double>(runBoxes.size());
+    return sum <= 4.0 * std::sqrt((all.x1 - all.x0) * count) * std::sqrt(all.y1 - all.y0);
+}
+
+} // namespace
+
 std::optional<gk_VertexTree> gk_VertexTree::of(const Points& points) {
     if (points.empty() || points.size() > UINT32_MAX) return std::nullopt;
-    gk_Box all = gk_Box::of(points.front(), points.front());
+    gk_Box all = boxOf(points.front());
     for (const gkVector<2>& point : points) {
         if (!gk_IsModerate(point)) return std::nullopt;
-        all = all.enclosing(gk_Box::of(point, point));
+        all = all.enclosing(boxOf(point));
     }
-    gk_SpaceOrder order(all, points.size());
-    for (const gkVector<2>& point : points) order.add(point);
-
     gk_VertexTree tree;
     tree.reach_ = std::max(gk_Reach({all.x0, all.y0}), gk_Reach({all.x1, all.y1}));
-    tree.order_ = order.sorted();
+    tree.vertexCount_ = points.size();
+    const std::vector<gk_Box> runBoxes = tree.boxesOfRuns(points);
+    if (areCompact(runBoxes, all))
+        tree.orderRuns(runBoxes, all);
+    else
+        tree.orderVertices(points, all);
+    return tree;
+}
+
+std::vector<gk_Box> gk_VertexTree::boxesOfRuns(const Points& points) const {
+    std::vector<gk_Box> boxes;
+    boxes.reserve(points.size() / kGroup + 1);
+    for (std::size_t begin = 0; begin < points.size(); begin += kGroup) {
+        gk_Box box = boxOf(points[begin]);
+        for (std::size_t i = begin + 1; i < std::min(begin + kGroup, points.size()); ++i)
+            box = box.enclosing(boxOf(points[i]));
+        boxes.push_back(box);
+    }
+    return boxes;
+}
+
+void gk_VertexTree::orderRuns(const std::vector<gk_Box>& runBoxes, const gk_Box& all) {
+    gk_SpaceOrder order(all, runBoxes.size());
+    for (const gk_Box& box : runBoxes) order.add(box.middle());
+    order_ = order.sorted();
+    std::vector<gk_Box> leaves;
+    leaves.reserve(order_.size());
+    for (const std::uint32_t run : order_) leaves.push_back(runBoxes[run]);
+    boxes_ = gk_BoxHierarchy(leaves);
+    areRuns_ = true;
+}
+
+void gk_VertexTree::orderVertices(const Points& points, const gk_Box& all) {
+    gk_SpaceOrder order(all, points.size());
+    for (const gkVector<2>& point : points) order.add(point);
+    order_ = order.sorted();
     std::vector<gk_Box> leaves;
     leaves.reserve(points.size() / kGroup + 1);
     for (std::size_t begin = 0; begin < points.size(); begin += kGroup) {
-        const gkVector<2>& first = points[tree.order_[begin]];
-        gk_Box box = gk_Box::of(first, first);
-        for (std::size_t i = begin + 1; i < std::min(begin + kGroup, points.size()); ++i) {
-            const gkVector<2>& point = points[tree.order_[i]];
-            box = box.enclosing(gk_Box::of(point, point));
-        }
+        gk_Box box = boxOf(points[order_[begin]]);
+        for (std::size_t i = begin + 1; i < std::min(begin + kGroup, points.size()); ++i)
+            box = box.enclosing(boxOf(points[order_[i]]));
         leaves.push_back(box);
     }
-    tree.boxes_ = gk_BoxHierarchy(std::move(leaves));
-    return tree;
+    boxes_ = gk_BoxHierarchy(leaves);
 }

@@ -7,8 +7,9 @@
 #include <cstdint>
 #include <optional>
 
-// The segments' own boxes say little about where a vertex is when segments are long: the vertices have a tree
-// of their own. About 9 bytes per vertex.
+// Vertices that follow each other are mostly neighbours in space, and then a run of them makes a group. Where
+// segments are long it does not, and the groups are made of vertices in order of space. About 5 or 9 bytes per
+// vertex.
 class gk_VertexTree {
 public:
     using Points = std::vector<gkVector<2>>;
@@ -27,21 +28,31 @@ public:
             return false;
         });
     }
-    template <class Nearness, class Limit, class Visit>
-    void nearestFirst(Nearness nearness, Limit limit, Visit visit) const {
-        boxes_.nearestFirst(nearness, limit, [&](std::size_t leaf) { visitGroup(leaf, visit); });
+    template <class Limit, class Visit> void nearestTo(const gkVector<2>& p, Limit limit, Visit visit) const {
+        boxes_.nearestTo(p, limit, [&](std::size_t leaf) { visitGroup(leaf, visit); });
     }
 
 private:
     gk_VertexTree() = default;
 
+    std::vector<gk_Box> boxesOfRuns(const Points& points) const;
+    void orderRuns(const std::vector<gk_Box>& runBoxes, const gk_Box& all);
+    void orderVertices(const Points& points, const gk_Box& all);
+
     template <class Visit> void visitGroup(std::size_t leaf, Visit& visit) const {
-        const std::size_t end = std::min((leaf + 1) * kGroup, order_.size());
+        if (areRuns_) {
+            const std::size_t begin = order_[leaf] * kGroup;
+            for (std::size_t i = begin; i < std::min(begin + kGroup, vertexCount_); ++i) visit(i);
+            return;
+        }
+        const std::size_t end = std::min((leaf + 1) * kGroup, vertexCount_);
         for (std::size_t i = leaf * kGroup; i < end; ++i) visit(std::size_t{order_[i]});
     }
 
     double reach_ = 0.0;
-    std::vector<std::uint32_t> order_;
+    std::size_t vertexCount_ = 0;
+    bool areRuns_ = false;
+    std::vector<std::uint32_t> order_; // of runs or of vertices
     gk_BoxHierarchy boxes_;
 };
 

@@ -7,6 +7,8 @@
 #include "platform/core/math/vector.h"
 #include "platform/export.h"
 
+#include <array>
+
 template <int N> class gkMatrix;
 
 /// A 2 x 2 matrix, indexed (row, column).
@@ -27,6 +29,8 @@ public:
 
     /// The element at (row, column), each 0 or 1; gkMathError::OutOfRange otherwise.
     double element(int row, int column) const;
+    /// All four, row by row.
+    constexpr std::array<double, 4> elements() const { return {e00_, e01_, e10_, e11_}; }
 
     double determinant() const;
     gkMatrix transposed() const { return gkMatrix(e00_, e10_, e01_, e11_); }

@@ -64,15 +64,14 @@ TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
     search::each(12, [&](const Points& points, std::uint64_t seed) {
         if (points.size() < 2) return;
         const gk_Segments outline(points, true);
-        const auto tree = gk_SegmentTree::of(outline);
-        if (!tree) return;
+        const auto grid = gk_CellGrid::of(outline);
+        if (!grid) return;
         const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
-        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, tree->box());
-        const auto cells = gk_InsideCells::of(outline, *tree, certificate);
-        if (!cells) return;
+        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, grid->box());
+        const gk_SegmentCells cells(*grid, outline);
         for (const gkVector<2>& p : probes(points, seed)) {
             if (!gk_IsModerate(p) || !certificate.allowsRaysFrom(p)) continue;
-            const gk_Inside known = cells->at(outline, *tree, certificate, p);
+            const gk_Inside known = gk_InsideByCells(outline, cells, certificate, p);
             counts.add(known);
             if (known == gk_Inside::eUnknown) continue;
             ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(known)) << p;

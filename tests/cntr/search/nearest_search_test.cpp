@@ -11,6 +11,7 @@
 #include "tests/support/answer.h"
 #include "tests/support/shapes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -65,6 +66,57 @@ TEST(NearestSearch, TreeFindsThePlainNearestVertex) {
             ASSERT_EQ(oracle::closestVertexIndex(points, p),
                       static_cast<long>(gk_NearestVertex(points, *tree, p)))
                 << p;
+        }
+    });
+}
+
+TEST(NearestSearch, CellsFindTheSegmentAndTheVertexOfTheScan) {
+    int found = 0;
+    int asked = 0;
+    search::each(12, [&](const Points& points, std::uint64_t seed) {
+        for (const bool closed : {false, true}) {
+            const gk_Segments segments(points, closed);
+            const auto grid = gk_CellGrid::of(segments);
+            if (!grid) continue;
+            const gk_SegmentCells cells(*grid, segments);
+            for (const gkVector<2>& p : gen::probes(points, seed)) {
+                if (!gk_IsModerate(p)) continue;
+                ++asked;
+                if (const auto vertex = gk_NearestVertex(segments, cells, p)) {
+                    ASSERT_EQ(gk_NearestVertex(points, p), *vertex) << p;
+                }
+                const auto segment = gk_NearestSegment(segments, cells, p);
+                if (!segment) continue;
+                ++found;
+                ASSERT_EQ(gk_NearestSegment(segments, p), *segment) << p;
+            }
+        }
+    });
+    EXPECT_LT(asked / 4, found); // the rest is far away or outside the box
+}
+
+TEST(NearestSearch, CellsListEverySegmentThatComesNear) {
+    search::each(4, [](const Points& points, std::uint64_t) {
+        const gk_Segments segments(points, true);
+        const auto grid = gk_CellGrid::of(segments);
+        if (!grid || grid->size() > 3000) return;
+        const gk_SegmentCells cells(*grid, segments);
+        for (std::size_t row = 0; row < grid->rows(); ++row) {
+            for (std::size_t column = 0; column < grid->columns(); ++column) {
+                const auto list = cells.segmentsIn(column, row);
+                EXPECT_TRUE(std::is_sorted(list.begin(), list.end()));
+                const gk_Box cell = {grid->leftOf(column), grid->bottomOf(row), grid->leftOf(column + 1),
+                                     grid->bottomOf(row + 1)};
+                for (std::size_t k = 0; k < segments.size(); ++k) {
+                    // Places along the segment stand for all of it.
+                    const gkVector<2> along = segments.second(k) - segments.first(k);
+                    bool isInside = false;
+                    for (int step = 0; step <= 8; ++step)
+                        isInside = isInside || cell.holds(segments.first(k) + along * (step / 8.0));
+                    if (!isInside) continue;
+                    ASSERT_TRUE(std::binary_search(list.begin(), list.end(), k)) << k;
+                }
+            }
         }
     });
 }
