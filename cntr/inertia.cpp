@@ -1,7 +1,6 @@
 // Second moments of a polygon: a fan of triangles about the centroid, each taken from its base and apex.
 #include "cntr/moments.h"
 
-#include "platform/core/math/trig.h"
 #include "platform/core/math/vector_ops.h"
 #include "platform/core/shapes/line_ops.h"
 
@@ -36,16 +35,23 @@ LocalInertia baseApexTriangleInertia(double left, double right, double height) {
     return local;
 }
 
+// The vector's direction, of length 1. Where the square of the length is no ordinary number, that of the zero
+// vector included, it is the cosine and sine of the angle.
+gkVector<2> unitOf(const gkVector<2>& vector) {
+    const double length = gk_VectorOps::length(vector);
+    if (length >= 1e-150 && length <= 1e150) return vector / length;
+    return gkVector<2>(1.0, vector.angle());
+}
+
 // Turns the local moments by the base's direction and moves them to the foot of the apex.
-gk_InertiaData placed(const LocalInertia& local, const gkVector<2>& foot, const gkRadian& direction) {
-    const gk_Trig::SinCos unit = gk_Trig::sinCos(direction.toDouble());
-    const double si = unit.sin;
-    const double co = unit.cos;
+gk_InertiaData placed(const LocalInertia& local, const gkVector<2>& foot, const gkVector<2>& direction) {
+    const double co = direction.x();
+    const double si = direction.y();
     const double xx = local.xx * (co * co) - 2.0 * local.xy * si * co + local.yy * (si * si);
     const double yy = local.xx * (si * si) + 2.0 * local.xy * si * co + local.yy * (co * co);
     const double xy = local.xx * si * co + local.xy * (co * co - si * si) - local.yy * si * co;
     const gkVector<2> center =
-        foot + gkMatrix<2>(direction, direction, 1.0, 1.0) * gkVector<2>(local.centerX, local.centerY);
+        foot + gkVector<2>(co * local.centerX - si * local.centerY, si * local.centerX + co * local.centerY);
     return gk_InertiaData(local.area, center, gkMatrix<2>(xx, xy, xy, yy));
 }
 
@@ -63,7 +69,7 @@ gk_InertiaData inertiaOverBase(const gkVector<2>& q1, const gkVector<2>& q2, con
         local.centerY = -local.centerY;
         local.xy = -local.xy;
     }
-    return placed(local, foot, (q2 - q1).angle());
+    return placed(local, foot, unitOf(q2 - q1));
 }
 
 // One of the three edges is a base in exact arithmetic. With NaN corners, or where rounding denies all three,

@@ -29,14 +29,20 @@ inline Inertia baseApexTriangle(double left, double right, double height) {
     return m;
 }
 
-// The local moments turned by `theta` and moved to the foot of the apex.
-inline Inertia rotatedIntoPlace(const Inertia& m, const gkVector<2>& foot, const gkRadian& theta) {
-    const gkVector<2> unit(1.0, theta);
+// The direction of a base: the unit vector, or the cosine and sine of the angle where squares overflow or
+// underflow and where there is no length.
+inline gkVector<2> baseDirection(const gkVector<2>& base) {
+    const bool isOrdinary = base.length() >= 1e-150 && base.length() <= 1e150;
+    return isOrdinary ? base.unit() : gkVector<2>(1.0, base.angle());
+}
+
+// The local moments turned into the direction `unit` and moved to the foot of the apex.
+inline Inertia rotatedIntoPlace(const Inertia& m, const gkVector<2>& foot, const gkVector<2>& unit) {
     const double co = unit.x();
     const double si = unit.y();
     Inertia r;
     r.area = m.area;
-    r.center = foot + gkMatrix<2>(theta, theta, 1.0, 1.0) * m.center;
+    r.center = foot + gkMatrix<2>(co, -si, si, co) * m.center;
     r.xx = m.xx * (co * co) - 2.0 * m.xy * si * co + m.yy * (si * si);
     r.yy = m.xx * (si * si) + 2.0 * m.xy * si * co + m.yy * (co * co);
     r.xy = m.xx * si * co + m.xy * (co * co - si * si) - m.yy * si * co;
@@ -63,7 +69,7 @@ inline Inertia triangleInertia(const gkVector<2>& q1, const gkVector<2>& q2, con
         local.center = gkVector<2>(local.center.x(), -local.center.y());
         local.xy = -local.xy;
     }
-    return rotatedIntoPlace(local, foot, (q2 - q1).angle());
+    return rotatedIntoPlace(local, foot, baseDirection(q2 - q1));
 }
 
 inline Inertia sum(const Inertia& a, const Inertia& b) {
