@@ -3,9 +3,9 @@
 #include "platform/core/fit/ellipse_fit.h"
 #include "platform/core/math/real.h"
 #include "platform/core/math/trig.h"
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/math/vector_ops.h"
 #include "platform/core/object/errors.h"
-#include "platform/core/shapes/line_ops.h"
 
 #include <cmath>
 #include <limits>
@@ -13,6 +13,9 @@
 namespace {
 
 using Points = std::vector<gkVector<2>>;
+
+// Doubled area of a triangle with the origin that does not count any more, in squared vertex units.
+constexpr double kNoTriangle = 1e-15;
 
 std::vector<gkVector<2>> positions(const std::vector<gkEdgelet>& edgelets) {
     Points points;
@@ -31,11 +34,65 @@ double shoelace(const Points& points) {
     return std::fabs(sum / 2.0);
 }
 
-// The crossing of two medians, not the mean of the corners: the definition the centroid's last bits come from.
-gkVector<2> triangleCentroid(const gkVector<2>& q1, const gkVector<2>& q2, const gkVector<2>& q3) {
-    const gkLineSeg first(q1, (q2 + q3) / 2.0);
-    const gkLineSeg second(q2, (q1 + q3) / 2.0);
-    return gk_LineOps::intersect(first.line(), second.line());
+gk_TwoBools isFinite(gk_TwoDoubles value) {
+    return value.magnitude() <= gk_TwoDoubles(std::numeric_limits<double>::max());
+}
+
+// What two edges add to the sums of the centroid.
+//
+// The centroid of the triangle with the origin is the crossing of two medians, not the mean of the corners: the
+// definition the last bits come from. The median from the origin leads to the middle of the edge, the one from
+// `previous` to half of `current`. Medians that cross at no finite place count as crossing at the origin;
+// unless they are asked for, such a crossing spoils the sums instead. A sum from 0 on is never -0, so adding 0
+// passes over an edge.
+template <bool crossAnywhere> struct CentroidTerms {
+    CentroidTerms(const gk_TwoVectors& previous, const gk_TwoVectors& current)
+        : weight(previous.cross(current)) {
+        const gk_TwoDoubles half(0.5);
+        const gk_TwoVectors first = (previous + current) * half;
+        const gk_TwoVectors second = current * half - previous;
+        const gk_TwoDoubles t = previous.cross(second) / first.cross(second);
+        gk_TwoVectors centroid = first * t;
+        if (crossAnywhere) centroid = centroid.where(isFinite(t));
+        moment = centroid * weight;
+        const gk_TwoBools isSkipped = weight.magnitude() <= gk_TwoDoubles(kNoTriangle);
+        if (!isSkipped.any()) return;
+        weight = weight.where(!isSkipped);
+        moment = moment.where(!isSkipped);
+    }
+
+    gk_TwoDoubles weight;
+    gk_TwoVectors moment;
+};
+
+struct CentroidSums {
+    double weight = 0.0;
+    gk_TwoDoubles moment;
+};
+
+template <bool crossAnywhere> CentroidSums centroidSums(const Points& points) {
+    CentroidSums sums;
+    const auto addFirst = [&](const CentroidTerms<crossAnywhere>& terms) {
+        sums.weight += terms.weight.first();
+        sums.moment = sums.moment + gk_TwoDoubles::firsts(terms.moment.x, terms.moment.y);
+    };
+    gk_TwoDoubles previous = gk_TwoOf(points.back());
+    std::size_t i = 0;
+    for (; i + 1 < points.size(); i += 2) {
+        const gk_TwoDoubles middle = gk_TwoOf(points[i]);
+        const gk_TwoDoubles last = gk_TwoOf(points[i + 1]);
+        const CentroidTerms<crossAnywhere> terms(gk_TwoVectors::of(previous, middle),
+                                                 gk_TwoVectors::of(middle, last));
+        addFirst(terms);
+        sums.weight += terms.weight.second();
+        sums.moment = sums.moment + gk_TwoDoubles::seconds(terms.moment.x, terms.moment.y);
+        previous = last;
+    }
+    if (i < points.size()) {
+        const gk_TwoDoubles last = gk_TwoOf(points[i]);
+        addFirst({gk_TwoVectors::of(previous, previous), gk_TwoVectors::of(last, last)});
+    }
+    return sums;
 }
 
 } // namespace
@@ -48,23 +105,10 @@ double gf_Area(const std::vector<gkEdgelet>& edgelets) {
 
 gkVector<2> gnContour::centerOfMass(const std::vector<gkVector<2>>& points) {
     if (points.size() <= 2) return gkVector<2>();
-    const gkVector<2> origin;
-    double sumX = 0.0;
-    double sumY = 0.0;
-    double sum = 0.0;
-    gkVector<2> previous = points.back();
-    for (const gkVector<2>& current : points) {
-        const double weight = gk_VectorOps::cross(previous, current);
-        if (!gfRealEq(weight, 0.0, 1e-15)) {
-            const gkVector<2> centroid = triangleCentroid(origin, previous, current);
-            sumX += weight * centroid.x();
-            sumY += weight * centroid.y();
-            sum += weight;
-        }
-        previous = current;
-    }
-    if (gfRealEq(sum, 0.0, 1e-6)) return gkVector<2>();
-    return gkVector<2>(sumX / sum, sumY / sum);
+    CentroidSums sums = centroidSums<false>(points);
+    if (!isFinite(sums.moment).all()) sums = centroidSums<true>(points);
+    if (gfRealEq(sums.weight, 0.0, 1e-6)) return gkVector<2>();
+    return gk_VectorOf(sums.moment) / sums.weight;
 }
 
 gkVector<2> gf_CenterOfMass(const std::vector<gkVector<2>>& points) { return gnContour::centerOfMass(points); }
