@@ -1,5 +1,6 @@
 #include "cntr/measures.h"
 
+#include "cntr/extremes.h"
 #include "cntr/index.h"
 #include "cntr/segment_walk.h"
 #include "platform/core/math/trig.h"
@@ -63,29 +64,17 @@ template <class Vertices> long extremalVertex(const Vertices& vertices, const gk
     return firstGreatest(vertices, [&](const gkVector<2>& v) { return gk_VectorOps::dot(direction, v); });
 }
 
-// A side moves only strictly further out, as gkRect::enclose says: a NaN is passed over, but for the first
-// vertex's.
+// A side moves only strictly further out, as gkRect::enclose says.
 template <class Vertices, class Mapped> gkRect boxOf(const Vertices& vertices, Mapped mapped) {
-    const gkVector<2> first = mapped(vertices[0]);
-    double left = first.x();
-    double top = first.y();
-    double right = first.x();
-    double bottom = first.y();
-    for (std::size_t i = 1; i < vertices.size(); ++i) {
-        const gkVector<2> p = mapped(vertices[i]);
-        left = std::min(left, p.x());
-        top = std::min(top, p.y());
-        right = std::max(right, p.x());
-        bottom = std::max(bottom, p.y());
-    }
-    return gkRect::fromCorners({left, top}, {right, bottom});
+    const gk_Extremes extremes(vertices.size(), [&](std::size_t i) { return mapped(gk_TwoOf(vertices[i])); });
+    return gkRect::fromCorners(extremes.low(), extremes.high());
 }
 
 template <class Vertices> gkRect encloseRect(const Vertices& vertices, const gkXform<2>& xform) {
     // The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
-    if (gfRealEq(xform, gkXform<2>(), 1e-15)) return boxOf(vertices, [](const gkVector<2>& p) { return p; });
+    if (gfRealEq(xform, gkXform<2>(), 1e-15)) return boxOf(vertices, [](gk_TwoDoubles p) { return p; });
     const gk_XformOps map(xform);
-    return boxOf(vertices, [&](const gkVector<2>& p) { return map.image(p); });
+    return boxOf(vertices, [&](gk_TwoDoubles p) { return map.image(p); });
 }
 
 // Products with coordinates neither overflow nor underflow, and the sum of two has a direction.
@@ -128,11 +117,25 @@ void gk_CircleOverFarthestPair(const std::vector<gkVector<2>>& points, gkCircle&
     }
 }
 
+// The root is monotone also as it rounds, so the greatest square has the greatest root.
 gkCircle gk_CircleAroundFirst(const std::vector<gkVector<2>>& points) {
-    // The root is monotone also as it rounds, so the greatest square has the greatest root.
-    double square = 0.0;
-    for (const gkVector<2>& point : points) {
-        const gkVector<2> offset = point - points.front();
+    const gk_TwoDoubles center = gk_TwoOf(points.front());
+    const auto squares = [&](std::size_t i) {
+        const gk_TwoVectors offsets =
+            gk_TwoVectors::of(gk_TwoOf(points[i]) - center, gk_TwoOf(points[i + 1]) - center);
+        return offsets.dot(offsets);
+    };
+    gk_TwoDoubles even;
+    gk_TwoDoubles odd;
+    std::size_t i = 0;
+    for (; i + 4 <= points.size(); i += 4) {
+        even = squares(i).orGreater(even);
+        odd = squares(i + 2).orGreater(odd);
+    }
+    even = even.orGreater(odd);
+    double square = std::max(even.first(), even.second());
+    for (; i < points.size(); ++i) {
+        const gkVector<2> offset = points[i] - points.front();
         square = std::max(square, gk_VectorOps::dot(offset, offset));
     }
     return gkCircle(points.front(), std::sqrt(square));

@@ -4,6 +4,7 @@
 #ifndef GK_PLATFORM_CORE_MATH_XFORM_OPS_H
 #define GK_PLATFORM_CORE_MATH_XFORM_OPS_H
 
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/math/xform.h"
 
 // A transform taken apart once, to be applied to many points.
@@ -16,6 +17,11 @@ public:
 
     gkVector<2> image(const gkVector<2>& p) const {
         return gkVector<2>(e00_ * p.x() + e01_ * p.y(), e10_ * p.x() + e11_ * p.y()) + translation_;
+    }
+    // The same of a point's two coordinates.
+    gk_TwoDoubles image(gk_TwoDoubles p) const {
+        return gk_TwoDoubles(e00_, e10_) * gk_TwoDoubles(p.first()) +
+               gk_TwoDoubles(e01_, e11_) * gk_TwoDoubles(p.second()) + gk_TwoOf(translation_);
     }
 
 private:
