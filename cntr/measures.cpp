@@ -2,8 +2,11 @@
 
 #include "cntr/extremes.h"
 #include "cntr/index.h"
+#include "cntr/search/magnitude.h"
+#include "cntr/search/vertex_runs.h"
 #include "cntr/segment_walk.h"
 #include "platform/core/math/trig.h"
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/math/xform_ops.h"
 #include "platform/core/shapes/line_ops.h"
 
@@ -13,74 +16,71 @@
 
 namespace {
 
-// The vertices of a list, all of them or those of some ascending indices.
-class All {
+// The coordinate itself along one of the axes, or against it.
+class AlongAxis {
 public:
-    explicit All(const std::vector<gkVector<2>>& points) : points_(points) {}
-    std::size_t size() const { return points_.size(); }
-    std::size_t index(std::size_t i) const { return i; }
-    const gkVector<2>& operator[](std::size_t i) const { return points_[i]; }
-
-private:
-    const std::vector<gkVector<2>>& points_;
-};
-
-class Some {
-public:
-    Some(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& indices)
-        : points_(points), indices_(indices) {}
-    std::size_t size() const { return indices_.size(); }
-    std::size_t index(std::size_t i) const { return indices_[i]; }
-    const gkVector<2>& operator[](std::size_t i) const { return points_[indices_[i]]; }
-
-private:
-    const std::vector<gkVector<2>>& points_;
-    const std::vector<std::uint32_t>& indices_;
-};
-
-// Index of the first vertex with the greatest score above the most negative double; -1 when there is none.
-template <class Vertices, class Score> long firstGreatest(const Vertices& vertices, Score score) {
-    double best = std::numeric_limits<double>::lowest();
-    long index = -1;
-    for (std::size_t i = 0; i < vertices.size(); ++i) {
-        const double candidate = score(vertices[i]);
-        if (candidate > best) {
-            best = candidate;
-            index = gk_IndexAs<long>(vertices.index(i));
-        }
+    AlongAxis(bool isX, double sign) : isX_(isX), sign_(sign) {}
+    double operator()(const gkVector<2>& v) const { return sign_ * (isX_ ? v.x() : v.y()); }
+    gkVector<2> corner(const gk_Box& box) const {
+        return sign_ > 0.0 ? gkVector<2>(box.x1, box.y1) : gkVector<2>(box.x0, box.y0);
     }
-    return index;
+
+private:
+    bool isX_;
+    double sign_;
+};
+
+gkVector<2> cornerTowards(const gk_Box& box, double x, double y) {
+    return gkVector<2>(x < 0.0 ? box.x0 : box.x1, y < 0.0 ? box.y0 : box.y1);
 }
 
-template <class Vertices> long extremalVertex(const Vertices& vertices, const gkRadian& angle) {
+class AlongDirection {
+public:
+    explicit AlongDirection(const gkVector<2>& direction) : direction_(direction) {}
+    double operator()(const gkVector<2>& v) const { return gk_VectorOps::dot(direction_, v); }
+    gkVector<2> corner(const gk_Box& box) const { return cornerTowards(box, direction_.x(), direction_.y()); }
+
+private:
+    gkVector<2> direction_;
+};
+
+// A coordinate of the image, or what it lacks. Adding the translation is monotone also as it rounds.
+class OfImage {
+public:
+    OfImage(const gkXform<2>& xform, int row, double sign)
+        : x_(xform.matrix().element(row, 0)), y_(xform.matrix().element(row, 1)),
+          shift_(row == 0 ? xform.translation().x() : xform.translation().y()), sign_(sign) {}
+    double operator()(const gkVector<2>& v) const { return sign_ * (x_ * v.x() + y_ * v.y() + shift_); }
+    gkVector<2> corner(const gk_Box& box) const { return cornerTowards(box, sign_ * x_, sign_ * y_); }
+
+private:
+    double x_;
+    double y_;
+    double shift_;
+    double sign_;
+};
+
+// firstGreatest(score) is the index of the first vertex with the greatest score above the most negative double,
+// -1 when there is none.
+template <class FirstGreatest> long extremalVertex(const gkRadian& angle, FirstGreatest firstGreatest) {
     const gk_Trig::SinCos unit = gk_Trig::sinCos(angle.toDouble());
     const gkVector<2> direction(unit.cos, unit.sin);
     const auto isAxis = [&](double x, double y) { return gfRealEq(direction, gkVector<2>(x, y), 1e-15); };
     // Axis directions compare the coordinate itself, free of the rounding of sine and cosine.
-    if (isAxis(1.0, 0.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return v.x(); });
-    if (isAxis(-1.0, 0.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return -v.x(); });
-    if (isAxis(0.0, 1.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return v.y(); });
-    if (isAxis(0.0, -1.0)) return firstGreatest(vertices, [](const gkVector<2>& v) { return -v.y(); });
-    return firstGreatest(vertices, [&](const gkVector<2>& v) { return gk_VectorOps::dot(direction, v); });
+    for (const double sign : {1.0, -1.0}) {
+        if (isAxis(sign, 0.0)) return firstGreatest(AlongAxis(true, sign));
+        if (isAxis(0.0, sign)) return firstGreatest(AlongAxis(false, sign));
+    }
+    return firstGreatest(AlongDirection(direction));
 }
+
+// The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
+bool isIdentity(const gkXform<2>& xform) { return gfRealEq(xform, gkXform<2>(), 1e-15); }
 
 // A side moves only strictly further out, as gkRect::enclose says.
-template <class Vertices, class Mapped> gkRect boxOf(const Vertices& vertices, Mapped mapped) {
-    const gk_Extremes extremes(vertices.size(), [&](std::size_t i) { return mapped(gk_TwoOf(vertices[i])); });
+template <class Mapped> gkRect boxOf(const std::vector<gkVector<2>>& points, Mapped mapped) {
+    const gk_Extremes extremes(points.size(), [&](std::size_t i) { return mapped(gk_TwoOf(points[i])); });
     return gkRect::fromCorners(extremes.low(), extremes.high());
-}
-
-template <class Vertices> gkRect encloseRect(const Vertices& vertices, const gkXform<2>& xform) {
-    // The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
-    if (gfRealEq(xform, gkXform<2>(), 1e-15)) return boxOf(vertices, [](gk_TwoDoubles p) { return p; });
-    const gk_XformOps map(xform);
-    return boxOf(vertices, [&](gk_TwoDoubles p) { return map.image(p); });
-}
-
-// Products with coordinates neither overflow nor underflow, and the sum of two has a direction.
-bool isModerateRow(const gkMatrix<2>& matrix, int row) {
-    const double size = std::fabs(matrix.element(row, 0)) + std::fabs(matrix.element(row, 1));
-    return size >= 1e-100 && size <= 1e100;
 }
 
 } // namespace
@@ -142,24 +142,56 @@ gkCircle gk_CircleAroundFirst(const std::vector<gkVector<2>>& points) {
 }
 
 long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gkRadian& angle) {
-    return extremalVertex(All(points), angle);
+    return extremalVertex(angle, [&](const auto& score) {
+        double best = std::numeric_limits<double>::lowest();
+        long index = -1;
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            const double candidate = score(points[i]);
+            if (!(candidate > best)) continue;
+            best = candidate;
+            index = gk_IndexAs<long>(i);
+        }
+        return index;
+    });
 }
 
-long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gk_VertexRuns& runs,
                        const gkRadian& angle) {
-    if (!std::isfinite(angle.toDouble())) return gk_ExtremalVertex(points, angle);
-    return extremalVertex(Some(points, outer), angle);
+    gk_IndexAs<long>(points.size() - 1);
+    return extremalVertex(angle, [&](const auto& score) { return runs.firstGreatest(points, score); });
 }
 
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform) {
-    return encloseRect(All(points), xform);
+    if (isIdentity(xform)) return boxOf(points, [](gk_TwoDoubles p) { return p; });
+    const gkMatrix<2>& m = xform.matrix();
+    const gk_TwoDoubles column0(m.element(0, 0), m.element(1, 0));
+    const gk_TwoDoubles column1(m.element(0, 1), m.element(1, 1));
+    const gk_TwoDoubles shift = gk_TwoOf(xform.translation());
+    return boxOf(points, [&](gk_TwoDoubles p) {
+        return column0 * gk_TwoDoubles::firsts(p, p) + column1 * gk_TwoDoubles::seconds(p, p) + shift;
+    });
 }
 
-// Adding the translation is monotone also as it rounds, so the vertices that are farthest out before stay so.
-gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gk_VertexRuns& runs,
                       const gkXform<2>& xform) {
-    const bool isModerate = isModerateRow(xform.matrix(), 0) && isModerateRow(xform.matrix(), 1);
-    return isModerate ? encloseRect(Some(points, outer), xform) : gk_EncloseRect(points, xform);
+    if (isIdentity(xform)) return gk_EncloseRect(points, xform);
+    const gk_XformOps map(xform);
+    const gkVector<2> first = map.image(points[0]);
+    const auto farthest = [&](int row, double sign) {
+        const long index = runs.firstGreatest(points, OfImage(xform, row, sign));
+        return index < 0 ? gkVector<2>(std::numeric_limits<double>::quiet_NaN(), 0.0)
+                         : map.image(points[static_cast<std::size_t>(index)]);
+    };
+    const gkVector<2> left = farthest(0, -1.0);
+    const gkVector<2> right = farthest(0, 1.0);
+    const gkVector<2> top = farthest(1, -1.0);
+    const gkVector<2> bottom = farthest(1, 1.0);
+    // A NaN of the first vertex stays, and infinite sides need not be the first ones: both are left to the
+    // scan.
+    const bool isOrdinary = gk_IsModerate(first) && gk_IsModerate(left) && gk_IsModerate(right) &&
+                            gk_IsModerate(top) && gk_IsModerate(bottom);
+    if (!isOrdinary) return gk_EncloseRect(points, xform);
+    return gkRect::fromCorners({left.x(), top.y()}, {right.x(), bottom.y()});
 }
 
 double gk_MedianSegmentLength(const std::vector<gkVector<2>>& points, bool closed) {

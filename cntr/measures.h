@@ -8,9 +8,9 @@
 #include "platform/core/shapes/circle.h"
 #include "platform/core/shapes/rect.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <vector>
+
+class gk_VertexRuns;
 
 // Sum of the segments' lengths, in walking order.
 double gk_Length(const std::vector<gkVector<2>>& points, bool closed);
@@ -28,14 +28,14 @@ gkCircle gk_CircleAroundFirst(const std::vector<gkVector<2>>& points);
 // Index of the vertex that lies furthest in a direction, the lowest index among equals; -1 when no vertex has a
 // score above the most negative double (NaN or infinite coordinates).
 long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gkRadian& angle);
-// The same, looking at outer vertices (cntr/search/outer_vertices.h) alone.
-long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+// The same from runs of the vertices, which must not be empty.
+long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gk_VertexRuns& runs,
                        const gkRadian& angle);
 
 // Box of the vertices mapped by `xform`; `points` must not be empty.
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform);
-// The same, looking at outer vertices alone.
-gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
+// The same from runs of the vertices.
+gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gk_VertexRuns& runs,
                       const gkXform<2>& xform);
 
 // Median of the segments' lengths, the upper of the two middle values for an even count; there must be a

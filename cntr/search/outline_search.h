@@ -8,6 +8,7 @@
 #include "cntr/search/segment_cells.h"
 #include "cntr/search/segment_tree.h"
 #include "cntr/search/vertex_cells.h"
+#include "cntr/search/vertex_runs.h"
 #include "cntr/search/vertex_tree.h"
 
 #include "platform/core/math/angle.h"
@@ -69,7 +70,7 @@ private:
     const gk_SegmentCells* cells(const gk_Segments& outline);
     const gk_SegmentCells* crowdedCells(const gk_Segments& outline);
     const std::vector<std::uint32_t>* outerVertices(const Points& points);
-    const std::vector<std::uint32_t>* outerVerticesWhenAsked(const Points& points);
+    const gk_VertexRuns* vertexRunsWhenAsked(const Points& points);
     std::size_t nearestSegment(const gk_Segments& outline, const gkVector<2>& p);
     const InsideIndex* insideIndexWhenAsked(const gk_Segments& outline, double rayLength);
 
@@ -78,11 +79,12 @@ private:
     std::shared_ptr<const InsideIndex> inside_;
     std::shared_ptr<const std::vector<std::uint32_t>> outer_;
     std::shared_ptr<const gk_SegmentCells> cells_;
+    std::shared_ptr<const gk_VertexRuns> runs_;
     gk_VertexCells vertexCells_;
     std::uint32_t asked_ = 0;
     std::uint32_t askedVertices_ = 0;
     std::uint32_t askedInside_ = 0;
-    std::uint32_t askedOuter_ = 0;
+    std::uint32_t askedDirections_ = 0;
     bool treeTried_ = false;
     bool cellsTried_ = false;
     bool crowdTried_ = false;
