@@ -2,6 +2,7 @@
 
 #include "cntr/contour_defs.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 
@@ -16,7 +17,8 @@ bool sameBits(double a, double b) {
     return left == right;
 }
 
-bool canStart(gk_Outline& outline, long i, double probe) {
+// Segment i + 1 is the edge from vertex i to i + 1.
+bool canStart(gk_Outline& outline, long i, double probe, gk_RaysMet& metByA, gk_RaysMet& metByB) {
     const gkVector<2>& from = outline[i];
     const gkVector<2>& to = outline[i + 1];
     const gkVector<2> middle = (from + to) / 2.0;
@@ -25,9 +27,9 @@ bool canStart(gk_Outline& outline, long i, double probe) {
     const gkVector<2> a = middle + across * probe;
     const gkVector<2> b = middle - across * probe;
     // The probe meets the edge alone, and the edge meets its two neighbours at its ends alone.
-    return outline.crossings(gkLineSeg(a, b), true).size() == 1 &&
-           outline.crossings(gkLineSeg(from, to), true).size() == 2 &&
-           (outline.insideCount(a, true) == 0 || outline.insideCount(b, true) == 0);
+    return outline.crossingCountBeside(i + 1, gkLineSeg(a, b), true) == 1 &&
+           outline.crossingCountBeside(i + 1, gkLineSeg(from, to), true) == 2 &&
+           (outline.seesOutside(a, metByA) || outline.seesOutside(b, metByB));
 }
 
 // Where the walk stands. Its next step depends on nothing else.
@@ -42,11 +44,17 @@ struct WalkState {
     }
 };
 
+// The state stands on segment `position`, at one end or where it was crossed.
 WalkState stepped(gk_Outline& outline, const WalkState& state) {
     const long n = outline.size();
-    const gkVector<2>& target = outline[state.forward ? state.position : gk_WrapOnce(state.position - 1, n)];
-    const std::vector<gk_Crossing> found = outline.crossings(gkLineSeg(state.point, target), false);
-    if (!found.empty()) return {found.front().point, found.front().segment, !state.forward};
+    const long before = gk_WrapOnce(state.position - 1, n);
+    const gkVector<2>& target = outline[state.forward ? state.position : before];
+    const bool isWhole = state.point == outline[state.forward ? before : state.position];
+    if (!isWhole || !outline.isUncrossed(state.position)) {
+        const std::vector<gk_Crossing> found =
+            outline.crossingsBeside(state.position, gkLineSeg(state.point, target), false);
+        if (!found.empty()) return {found.front().point, found.front().segment, !state.forward};
+    }
     return {target, gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n), state.forward};
 }
 
@@ -75,8 +83,11 @@ private:
 } // namespace
 
 long gk_StartEdge(gk_Outline& outline, double probe) {
+    outline.gatherCloseSegments(1.01 * std::max(probe, kTouch));
+    gk_RaysMet metByA;
+    gk_RaysMet metByB;
     for (long i = 0; i < outline.size() - 1; ++i) {
-        if (canStart(outline, i, probe)) return i;
+        if (canStart(outline, i, probe, metByA, metByB)) return i;
     }
     throw gkContourDefs::BadParams(L"invalid contour");
 }

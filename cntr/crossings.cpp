@@ -1,6 +1,7 @@
 #include "cntr/crossings.h"
 
 #include "cntr/index.h"
+#include "cntr/search/close_pairs.h"
 #include "cntr/search/line_side.h"
 
 #include <algorithm>
@@ -27,81 +28,13 @@ gk_LineSide sideOf(const gkLineSeg& seg, const gk_SegmentTree& tree) {
     return gk_LineSide(seg.p1(), seg.p2(), std::max({tree.reach(), gk_Reach(seg.p1()), gk_Reach(seg.p2())}));
 }
 
-// Whether segments of two runs cross, either as the query of the other.
-class RunPairs {
-public:
-    RunPairs(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_Box& keptBox)
-        : outline_(outline), tree_(tree), keptBox_(keptBox) {}
-
-    // Segments of a run that goes on in one direction along an axis have boxes that do not overlap, but for
-    // neighbours.
-    bool crossWithin(std::size_t run) const {
-        const gk_SegmentTree::Range range = tree_.segmentsOf(run);
-        if (goesOn(range)) return false;
-        for (std::size_t k = range.begin; k < range.end; ++k)
-            if (crosses(k, {k + 2, range.end})) return true;
-        return false;
-    }
-
-    // Only what lies in both boxes can meet: where runs follow each other, the ends beside their common vertex.
-    bool cross(std::size_t run, const gk_Box& box, std::size_t other, const gk_Box& otherBox) const {
-        const gk_SegmentTree::Range ones = tree_.segmentsOf(run);
-        const gk_Box common = box.common(otherBox);
-        for (std::size_t k = ones.begin; k < ones.end; ++k)
-            if (boxOf(k).overlaps(common) && crosses(k, tree_.segmentsOf(other))) return true;
-        return false;
-    }
-
-private:
-    gk_Box boxOf(std::size_t k) const { return gk_Box::of(outline_.first(k), outline_.second(k)); }
-
-    bool goesOn(gk_SegmentTree::Range range) const {
-        bool right = true;
-        bool left = true;
-        bool up = true;
-        bool down = true;
-        for (std::size_t k = range.begin; k < range.end; ++k) {
-            const gkVector<2>& from = outline_.first(k);
-            const gkVector<2>& to = outline_.second(k);
-            right = right && from.x() < to.x();
-            left = left && from.x() > to.x();
-            up = up && from.y() < to.y();
-            down = down && from.y() > to.y();
-        }
-        return right || left || up || down;
-    }
-
-    // A neighbour touches an end and never counts.
-    bool areNeighbours(std::size_t k, std::size_t j) const {
-        const std::size_t apart = k < j ? j - k : k - j;
-        return apart <= 1 || (outline_.closed() && apart == outline_.size() - 1);
-    }
-
-    bool crosses(std::size_t k, gk_SegmentTree::Range others) const {
-        const gkVector<2>& p1 = outline_.first(k);
-        const gkVector<2>& p2 = outline_.second(k);
-        const gk_Box box = gk_Box::of(p1, p2);
-        const gk_LineSide side(p1, p2, tree_.reach());
-        for (std::size_t j = others.begin; j < others.end; ++j) {
-            const gkVector<2>& q1 = outline_.first(j);
-            const gkVector<2>& q2 = outline_.second(j);
-            if (!gk_Box::of(q1, q2).overlaps(box) || areNeighbours(k, j) || side.rejects(q1, q2)) continue;
-            if (isQuery(p1, p2, q1, q2) || isQuery(q1, q2, p1, p2)) return true;
-        }
-        return false;
-    }
-
-    bool isQuery(const gkVector<2>& p1, const gkVector<2>& p2, const gkVector<2>& q1,
-                 const gkVector<2>& q2) const {
-        const gk_CrossingTest query(gkLineSeg(p1, p2), false);
-        gkVector<2> point;
-        return keptBox_.overlaps(query.box()) && gk_IsValidLine(p1, p2) && query.crosses(q1, q2, point);
-    }
-
-    const gk_Segments& outline_;
-    const gk_SegmentTree& tree_;
-    const gk_Box& keptBox_;
-};
+// Whether the query from p1 to p2 is asked and crosses the other segment.
+bool isCrossed(const gk_Box& keptBox, const gkVector<2>& p1, const gkVector<2>& p2, const gkVector<2>& q1,
+               const gkVector<2>& q2) {
+    const gk_CrossingTest query(gkLineSeg(p1, p2), false);
+    gkVector<2> point;
+    return keptBox.overlaps(query.box()) && gk_IsValidLine(p1, p2) && query.crosses(q1, q2, point);
+}
 
 } // namespace
 
@@ -127,6 +60,29 @@ std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_Segme
     return crossings;
 }
 
+bool gk_MeetsAny(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_CrossingTest& query,
+                 std::size_t& segment) {
+    constexpr std::size_t kNeighbours = 2;
+    const auto meets = [&](std::size_t begin, std::size_t end) {
+        gkVector<2> point;
+        for (std::size_t k = begin; k < end; ++k) {
+            if (!query.crosses(outline.first(k), outline.second(k), point)) continue;
+            segment = k;
+            return true;
+        }
+        return false;
+    };
+    if (meets(segment - std::min(segment, kNeighbours), std::min(segment + kNeighbours + 1, outline.size())))
+        return true;
+    if (!isModerate(query.segment())) return meets(0, outline.size());
+    const gk_LineSide side = sideOf(query.segment(), tree);
+    return tree.any([&](const gk_Box& box) { return box.overlaps(query.box()) && !side.rejects(box); },
+                    [&](std::uint32_t run) {
+                        const gk_SegmentTree::Range range = tree.segmentsOf(run);
+                        return meets(range.begin, range.end);
+                    });
+}
+
 bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box) {
     for (std::size_t k = 0; k < outline.size(); ++k) {
         const gkLineSeg seg(outline.first(k), outline.second(k));
@@ -140,11 +96,16 @@ bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box) {
     return false;
 }
 
-// Only whether there is a crossing is asked, so the pairs may come in any order, each once.
+// Only whether there is a crossing is asked, so the pairs may come in any order, each once, either segment as
+// the query. A neighbour touches an end and never counts; boxes that do not overlap cannot cross.
 bool gk_CrossesItself(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_Box& box) {
-    const RunPairs pairs(outline, tree, box);
-    return tree.anyPair([&](std::size_t run, const gk_Box& runBox, std::size_t other, const gk_Box& otherBox) {
-        return run == other ? pairs.crossWithin(run) : pairs.cross(run, runBox, other, otherBox);
+    return gk_ClosePairs(outline, tree, 0.0).any([&](std::size_t k, std::size_t j) {
+        const gkVector<2>& p1 = outline.first(k);
+        const gkVector<2>& p2 = outline.second(k);
+        const gkVector<2>& q1 = outline.first(j);
+        const gkVector<2>& q2 = outline.second(j);
+        if (gk_LineSide(p1, p2, tree.reach()).rejects(q1, q2)) return false;
+        return isCrossed(box, p1, p2, q1, q2) || isCrossed(box, q1, q2, p1, p2);
     });
 }
 

@@ -20,6 +20,11 @@ std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_Cross
 std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_SegmentTree& tree,
                                       const gk_CrossingTest& query);
 
+// Whether there is a crossing at all. `segment` and its neighbours are tried first; it becomes the one that was
+// met.
+bool gk_MeetsAny(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_CrossingTest& query,
+                 std::size_t& segment);
+
 // Whether a segment of the outline crosses another one that does not touch its ends. Segments whose boxes do
 // not overlap `box`, the outline's own as its owner keeps it, are not asked.
 bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box);

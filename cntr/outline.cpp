@@ -35,6 +35,34 @@ std::vector<gk_Crossing> gk_Outline::crossings(const gkLineSeg& seg, bool includ
     return found;
 }
 
+void gk_Outline::gatherCloseSegments(double margin) {
+    check();
+    close_ = search_.closeSegments(segments(), margin);
+}
+
+std::vector<gk_Crossing> gk_Outline::unorderedBeside(long segment, const gk_CrossingTest& query) {
+    std::vector<gk_Crossing> found;
+    if (!gk_Box::of(box()).overlaps(query.box())) return found;
+    const gk_Segments outline = segments();
+    if (!close_) return search_.crossings(outline, query);
+    close_->visitAround(static_cast<std::size_t>(segment), [&](std::size_t k) {
+        gkVector<2> point;
+        if (query.crosses(outline.first(k), outline.second(k), point))
+            found.push_back({point, gk_IndexAs<int>(k)});
+    });
+    return found;
+}
+
+std::vector<gk_Crossing> gk_Outline::crossingsBeside(long segment, const gkLineSeg& seg, bool includeEnds) {
+    std::vector<gk_Crossing> found = unorderedBeside(segment, gk_CrossingTest(seg, includeEnds));
+    gk_OrderAlong(seg, found);
+    return found;
+}
+
+std::size_t gk_Outline::crossingCountBeside(long segment, const gkLineSeg& seg, bool includeEnds) {
+    return unorderedBeside(segment, gk_CrossingTest(seg, includeEnds)).size();
+}
+
 std::vector<int> gk_Outline::near(const gkVector<2>& p, double tolerance) {
     check();
     return search_.verticesWithin(points_, p, tolerance);
@@ -44,6 +72,12 @@ long gk_Outline::insideCount(const gkVector<2>& point, bool bothWays) {
     check();
     if (!box().within(point)) return 0;
     return search_.insideCount(segments(), point, rayLength(), bothWays);
+}
+
+bool gk_Outline::seesOutside(const gkVector<2>& point, gk_RaysMet& met) {
+    check();
+    if (!box().within(point)) return true;
+    return search_.seesOutside(segments(), point, rayLength(), met);
 }
 
 bool gk_Outline::inside(const gkVector<2>& point) {

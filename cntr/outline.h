@@ -3,6 +3,7 @@
 #define GK_CNTR_OUTLINE_H
 
 #include "cntr/crossings.h"
+#include "cntr/search/close_segments.h"
 #include "cntr/search/outline_search.h"
 #include "platform/core/shapes/rect.h"
 
@@ -32,17 +33,32 @@ public:
 
     // The crossings of a segment with the outline, ordered along the segment.
     std::vector<gk_Crossing> crossings(const gkLineSeg& seg, bool includeEnds);
+    // Finds at once what is close to each segment, for many questions about places beside segments: those that
+    // name a segment are then quick. Their query must lie within `margin` of that segment's box.
+    void gatherCloseSegments(double margin);
+    // As crossings().
+    std::vector<gk_Crossing> crossingsBeside(long segment, const gkLineSeg& seg, bool includeEnds);
+    std::size_t crossingCountBeside(long segment, const gkLineSeg& seg, bool includeEnds);
+    // Whether it is known that the whole segment is crossed by none.
+    bool isUncrossed(long segment) const {
+        return close_ && close_->hasNone(static_cast<std::size_t>(segment));
+    }
+
     // False when no vertex can be nearer than the tolerance.
     bool mayHaveNear(const gkVector<2>& p, double tolerance) {
         return gk_Box::of(box()).grownBy(2.0 * tolerance).holds(p);
     }
     // Indices of the vertices nearer than the tolerance, in the vertex grid's order.
     std::vector<int> near(const gkVector<2>& p, double tolerance);
-    long insideCount(const gkVector<2>& point, bool bothWays);
+    // Whether insideCount(point, true) would be 0: a ray or its opposite leaves without a crossing. `met` names
+    // segments to try first and receives those that the rays met.
+    bool seesOutside(const gkVector<2>& point, gk_RaysMet& met);
     // Whether insideCount(point, false) is odd.
     bool inside(const gkVector<2>& point);
 
 private:
+    long insideCount(const gkVector<2>& point, bool bothWays);
+    std::vector<gk_Crossing> unorderedBeside(long segment, const gk_CrossingTest& query);
     void check() const;
     const gkRect& box();
     double rayLength();
@@ -53,6 +69,7 @@ private:
     std::optional<gkRect> box_;
     std::optional<double> rayLength_;
     gk_OutlineSearch search_;
+    std::optional<gk_CloseSegments> close_;
 };
 
 #endif

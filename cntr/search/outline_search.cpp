@@ -170,6 +170,12 @@ bool gk_OutlineSearch::crossesItself(const gk_Segments& outline, const gk_Box& k
     return index == nullptr ? gk_CrossesItself(outline, keptBox) : gk_CrossesItself(outline, *index, keptBox);
 }
 
+std::optional<gk_CloseSegments> gk_OutlineSearch::closeSegments(const gk_Segments& outline, double margin) {
+    const gk_SegmentTree* const index = tree(outline);
+    if (index == nullptr || !(margin <= kGreatestCoordinate)) return std::nullopt;
+    return gk_CloseSegments::of(outline, *index, margin + gk_DistanceSlack(index->reach()));
+}
+
 long gk_OutlineSearch::insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength,
                                    bool bothWays) {
     // The plain ray sorts all directions, which takes longer than to build the tree.
@@ -182,6 +188,19 @@ long gk_OutlineSearch::insideCount(const gk_Segments& outline, const gkVector<2>
         return gk_IndexAs<long>(
             (index == nullptr ? gk_Crossings(outline, query) : gk_Crossings(outline, *index, query)).size());
     });
+}
+
+bool gk_OutlineSearch::seesOutside(const gk_Segments& outline, const gkVector<2>& point, double rayLength,
+                                   gk_RaysMet& met) {
+    const gk_SegmentTree* const index = tree(outline);
+    if (index == nullptr || !gk_IsModerate(point)) return insideCount(outline, point, rayLength, true) == 0;
+    const std::optional<gkVector<2>> direction = gk_RayDirection(outline, *index, point);
+    if (!direction) return false;
+    const auto meets = [&](const gkVector<2>& end, std::size_t& segment) {
+        return gk_MeetsAny(outline, *index, gk_CrossingTest(gkLineSeg(point, end), false), segment);
+    };
+    const gkVector<2> ray = *direction * rayLength;
+    return !meets(point + ray, met.forward) || !meets(point - ray, met.backward);
 }
 
 gk_Inside gk_OutlineSearch::inside(const gk_Segments& outline, const gkVector<2>& point, double rayLength) {

@@ -4,6 +4,7 @@
 #define GK_CNTR_SEARCH_OUTLINE_SEARCH_H
 
 #include "cntr/crossings.h"
+#include "cntr/search/close_segments.h"
 #include "cntr/search/inside_certificate.h"
 #include "cntr/search/segment_cells.h"
 #include "cntr/search/segment_tree.h"
@@ -20,6 +21,12 @@
 #include <memory>
 #include <optional>
 #include <vector>
+
+// Segments that a ray and its opposite met: rays that start nearby often meet them or their neighbours.
+struct gk_RaysMet {
+    std::size_t forward = 0;
+    std::size_t backward = 0;
+};
 
 // Belongs to one outline and is thrown away when that changes; every question brings the outline along. Copies
 // share what has been built, which never changes.
@@ -50,10 +57,14 @@ public:
     // Whether crossings() may find something for a segment in the box. Builds the index.
     bool mayCross(const gk_Segments& outline, const gk_Box& box);
     bool crossesItself(const gk_Segments& outline, const gk_Box& keptBox);
+    // None for an outline without an index. Builds the index.
+    std::optional<gk_CloseSegments> closeSegments(const gk_Segments& outline, double margin);
 
     // Of a closed outline and a point within its kept box, with a ray of twice the distance of the farthest
     // vertex from the first.
     long insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength, bool bothWays);
+    // Whether the count both ways is 0.
+    bool seesOutside(const gk_Segments& outline, const gkVector<2>& point, double rayLength, gk_RaysMet& met);
     // Whether that count is odd, where it is known without counting.
     gk_Inside inside(const gk_Segments& outline, const gkVector<2>& point, double rayLength);
 

@@ -48,13 +48,11 @@ public:
     template <class Limit, class Visit> void nearestTo(const gkVector<2>& p, Limit limit, Visit visit) const {
         boxes_.nearestTo(p, limit, [&](std::size_t leaf) { visit(runs_[leaf]); });
     }
-    // Calls visit(run, box, other, box of the other) for runs whose boxes overlap.
-    template <class Visit> bool anyPair(Visit visit) const {
-        return boxes_.anyPair([](const gk_Box& a, const gk_Box& b) { return a.overlaps(b); },
-                              [&](std::size_t leaf, std::size_t other) {
-                                  return visit(runs_[leaf], boxes_.leaf(leaf), runs_[other],
-                                               boxes_.leaf(other));
-                              });
+    // Calls visit(run, box, other, box of the other).
+    template <class Wanted, class Visit> bool anyPair(Wanted wanted, Visit visit) const {
+        return boxes_.anyPair(wanted, [&](std::size_t leaf, std::size_t other) {
+            return visit(runs_[leaf], boxes_.leaf(leaf), runs_[other], boxes_.leaf(other));
+        });
     }
 
 private:

@@ -1,6 +1,7 @@
 // Crossings from a tree. Oracle: tests/oracle/crossings.h, every segment, no shortcut.
 #include "cntr/crossings.h"
 
+#include "cntr/search/close_segments.h"
 #include "tests/cntr/search/search_shapes.h"
 #include "tests/oracle/crossings.h"
 #include "tests/support/answer.h"
@@ -66,6 +67,61 @@ TEST(CrossingSearch, TreeKnowsWhetherAnOutlineCrossesItself) {
     });
     EXPECT_LT(50, crossing);
     EXPECT_LT(50, simple);
+}
+
+TEST(CrossingSearch, TreeKnowsWhetherASegmentMeetsAny) {
+    search::each(12, [](const Points& points, std::uint64_t seed) {
+        if (points.size() < 2) return;
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        if (!tree) return;
+        std::size_t met = seed % points.size();
+        for (const gkLineSeg& seg : gen::querySegments(points, seed)) {
+            const gk_CrossingTest query(seg, false);
+            const bool expected = !gk_Crossings(outline, query).empty();
+            ASSERT_EQ(expected, gk_MeetsAny(outline, *tree, query, met)) << seg.p1() << seg.p2();
+            gkVector<2> point;
+            if (expected) {
+                ASSERT_TRUE(query.crosses(outline.first(met), outline.second(met), point));
+            }
+        }
+    });
+}
+
+// The plain answer: all pairs of boxes. A box grown by a margin may round to either side of another.
+TEST(CrossingSearch, CloseSegmentsAreThoseWhoseBoxesAreNear) {
+    search::each(6, [](const Points& points, std::uint64_t seed) {
+        if (points.size() < 4) return;
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        if (!tree) return;
+        const double margin = gen::Random(seed).chance(0.5) ? 1e-6 : 0.3;
+        const auto close = gk_CloseSegments::of(outline, *tree, margin);
+        if (!close) return;
+        const auto boxOf = [&](std::size_t k) { return gk_Box::of(outline.first(k), outline.second(k)); };
+        const std::size_t n = outline.size();
+        for (std::size_t k = 0; k < n; ++k) {
+            std::vector<bool> isAround(n, false);
+            std::size_t next = 0;
+            close->visitAround(k, [&](std::size_t j) {
+                ASSERT_LE(next, j);
+                next = j + 1;
+                isAround[j] = true;
+            });
+            std::size_t apart = 0;
+            for (std::size_t j = 0; j < n; ++j) {
+                const bool isNeighbour = j == k || (j + 1) % n == k || (k + 1) % n == j;
+                if (isNeighbour || boxOf(k).grownBy(0.9999 * margin).overlaps(boxOf(j))) {
+                    ASSERT_TRUE(isAround[j]) << k << ' ' << j;
+                }
+                if (isAround[j] && !isNeighbour) {
+                    ++apart;
+                    ASSERT_TRUE(boxOf(k).grownBy(1.0001 * margin + 1e-300).overlaps(boxOf(j))) << k << ' ' << j;
+                }
+            }
+            ASSERT_EQ(apart == 0, close->hasNone(k));
+        }
+    });
 }
 
 TEST(CrossingSearch, AsksOnlySegmentsThatReachTheKeptBox) {

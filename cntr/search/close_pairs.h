@@ -1,0 +1,119 @@
+// All pairs of an outline's segments that are close to each other.
+#ifndef GK_CNTR_SEARCH_CLOSE_PAIRS_H
+#define GK_CNTR_SEARCH_CLOSE_PAIRS_H
+
+#include "cntr/search/segment_tree.h"
+
+#include <array>
+
+// The pairs within a run and those of two runs.
+class gk_ClosePairs {
+public:
+    gk_ClosePairs(const gk_Segments& outline, const gk_SegmentTree& tree, double margin)
+        : outline_(outline), tree_(tree), margin_(margin) {}
+
+    // Calls visit(k, j) once for every two segments whose boxes are within the margin, but not for neighbours.
+    // A visit that returns true ends it; tells whether one did.
+    template <class Visit> bool any(Visit visit) const {
+        return tree_.anyPair(
+            [&](const gk_Box& a, const gk_Box& b) { return a.grownBy(margin_).overlaps(b); },
+            [&](std::size_t run, const gk_Box& box, std::size_t other, const gk_Box& otherBox) {
+                return run == other ? anyWithin(run, visit) : anyOf(run, box, other, otherBox, visit);
+            });
+    }
+
+private:
+    // Some of a run's segments.
+    class Reached {
+    public:
+        void addIf(bool isReached, std::size_t segment, const gk_Box& box) {
+            entries_[count_] = {segment, box};
+            count_ += isReached ? 1 : 0;
+        }
+        std::size_t count() const { return count_; }
+        std::size_t segment(std::size_t i) const { return entries_[i].segment; }
+        const gk_Box& box(std::size_t i) const { return entries_[i].box; }
+
+    private:
+        struct Entry {
+            std::size_t segment;
+            gk_Box box;
+        };
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
+        std::array<Entry, gk_SegmentTree::kRun + 1> entries_;
+        std::size_t count_ = 0;
+    };
+
+    template <class Visit> bool anyWithin(std::size_t run, Visit& visit) const {
+        const gk_SegmentTree::Range range = tree_.segmentsOf(run);
+        if (goesOn(range)) return false;
+        Reached all;
+        for (std::size_t k = range.begin; k < range.end; ++k) all.addIf(true, k, boxOf(k));
+        for (std::size_t i = 0; i < all.count(); ++i) {
+            const gk_Box around = all.box(i).grownBy(margin_);
+            for (std::size_t l = i + 2; l < all.count(); ++l)
+                if (around.overlaps(all.box(l)) && areApart(all.segment(i), all.segment(l)) &&
+                    visit(all.segment(i), all.segment(l)))
+                    return true;
+        }
+        return false;
+    }
+
+    // Only what lies near both boxes can be close: where runs follow each other, the ends beside their common
+    // vertex.
+    template <class Visit>
+    bool anyOf(std::size_t run, const gk_Box& box, std::size_t other, const gk_Box& otherBox,
+               Visit& visit) const {
+        const gk_Box common = box.grownBy(margin_).common(otherBox.grownBy(margin_));
+        const Reached ones = reached(tree_.segmentsOf(run), common);
+        if (ones.count() == 0) return false;
+        const Reached others = reached(tree_.segmentsOf(other), common);
+        for (std::size_t i = 0; i < ones.count(); ++i) {
+            const gk_Box around = ones.box(i).grownBy(margin_);
+            for (std::size_t l = 0; l < others.count(); ++l)
+                if (around.overlaps(others.box(l)) && areApart(ones.segment(i), others.segment(l)) &&
+                    visit(ones.segment(i), others.segment(l)))
+                    return true;
+        }
+        return false;
+    }
+
+    Reached reached(gk_SegmentTree::Range range, const gk_Box& common) const {
+        Reached found;
+        for (std::size_t k = range.begin; k < range.end; ++k) {
+            const gk_Box box = boxOf(k);
+            found.addIf(box.overlaps(common), k, box);
+        }
+        return found;
+    }
+
+    gk_Box boxOf(std::size_t k) const { return gk_Box::of(outline_.first(k), outline_.second(k)); }
+
+    // Every segment leads on by more than the margin in one direction along an axis, so the boxes of segments
+    // that are not neighbours are farther apart than that.
+    bool goesOn(gk_SegmentTree::Range range) const {
+        bool right = true;
+        bool left = true;
+        bool up = true;
+        bool down = true;
+        for (std::size_t k = range.begin; k < range.end; ++k) {
+            const gkVector<2> step = outline_.second(k) - outline_.first(k);
+            right = right && step.x() > margin_;
+            left = left && -step.x() > margin_;
+            up = up && step.y() > margin_;
+            down = down && -step.y() > margin_;
+        }
+        return right || left || up || down;
+    }
+
+    bool areApart(std::size_t k, std::size_t j) const {
+        const std::size_t apart = k < j ? j - k : k - j;
+        return apart > 1 && !(outline_.closed() && apart == outline_.size() - 1);
+    }
+
+    const gk_Segments& outline_;
+    const gk_SegmentTree& tree_;
+    double margin_;
+};
+
+#endif
