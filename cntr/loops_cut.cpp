@@ -1,39 +1,17 @@
 #include "cntr/contour_defs.h"
+#include "cntr/loop_rings.h"
 #include "cntr/loops.h"
-#include "cntr/outline.h"
 #include "cntr/search/vertex_cells.h"
+#include "cntr/search/vertex_company.h"
 
-#include <cstdint>
+#include <numeric>
 
 namespace {
 
 constexpr double kSameVertex = 1e-6; // vertex units
 
-using Index = std::uint32_t;
-constexpr Index kNone = UINT32_MAX;
-
-// Indices in rings, each with a next and a previous one.
-class Rings {
-public:
-    explicit Rings(std::size_t count) : next_(count, kNone), previous_(count, kNone) {}
-
-    Index next(Index i) const { return next_[i]; }
-    // Makes `second` follow `first`.
-    void join(Index first, Index second) {
-        next_[first] = second;
-        previous_[second] = first;
-    }
-    // Cuts the ring of both in two: from one to before the other, and from the other on.
-    void cut(Index one, Index other) {
-        const Index beforeOne = previous_[one];
-        join(previous_[other], one);
-        join(beforeOne, other);
-    }
-
-private:
-    std::vector<Index> next_;
-    std::vector<Index> previous_;
-};
+using Index = gk_LoopRings::Index;
+constexpr Index kNone = gk_LoopRings::kNone;
 
 // A walked outline in loops. A loop is a ring of the walk's vertices in the walk's order, whatever has been cut
 // out of it, so the order of its vertices from its start on is that of their distances along the walk.
@@ -49,54 +27,38 @@ public:
     };
 
     explicit WalkedLoops(const gk_Loop& walked)
-        : walked_(walked), vertices_(walked.size()), repeated_(walked.size()), near_(walked.size()),
+        : walked_(walked), company_(walked, kSameVertex), vertices_(walked.size()), repeated_(walked.size()),
           ring_(walked.size(), 0) {
-        const auto count = static_cast<Index>(walked.size());
-        gk_Outline outline(walked);
-        Index last = kNone;
-        for (Index i = 0; i < count; ++i) {
-            vertices_.join(i, i + 1 < count ? i + 1 : 0);
-            std::vector<int> near = outline.near(walked[i], kSameVertex);
-            if (near.size() < 2) continue;
-            near_[i] = std::move(near);
-            if (last != kNone) repeated_.join(last, i);
-            if (first_ == kNone) first_ = i;
-            last = i;
-        }
-        if (first_ != kNone) repeated_.join(last, first_);
+        std::vector<Index> all(walked.size());
+        std::iota(all.begin(), all.end(), Index{0});
+        vertices_.close(all);
+        repeated_.close(company_.vertices());
     }
 
-    Loop whole() const { return {0, first_}; }
+    Loop whole() const { return {0, company_.vertices().empty() ? kNone : company_.vertices().front()}; }
     bool isSingle(const Loop& loop) const { return vertices_.next(loop.start) == loop.start; }
 
     // The first vertex of the loop that comes again in it, and which other one is found there first.
     bool findRepeat(const Loop& loop, Repeat& repeat) const {
         if (loop.scanned == kNone) return false;
-        Index i = loop.scanned;
-        do {
-            const Index other = firstNear(i, loop);
-            if (other != kNone) {
-                repeat = {i, other};
-                return true;
-            }
-            i = repeated_.next(i);
-        } while (i != loop.scanned);
-        return false;
+        return repeated_.any(loop.scanned, [&](Index i) {
+            repeat = {i, firstNear(i, loop)};
+            return repeat.second != kNone;
+        });
     }
 
     void cut(const Repeat& repeat) {
-        vertices_.cut(repeat.first, repeat.second);
-        repeated_.cut(repeat.first, repeat.second);
+        vertices_.exchange(repeat.first, repeat.second);
+        repeated_.exchange(repeat.first, repeat.second);
         renumberShorter(repeat.first, repeat.second);
     }
 
     gk_Loop points(const Loop& loop) const {
         gk_Loop points;
-        Index i = loop.start;
-        do {
+        vertices_.any(loop.start, [&](Index i) {
             points.push_back(walked_[i]);
-            i = vertices_.next(i);
-        } while (i != loop.start);
+            return false;
+        });
         return points;
     }
 
@@ -113,8 +75,7 @@ private:
     // Those near come cell by cell; within a cell the first in the loop's order counts.
     Index firstNear(Index i, const Loop& loop) const {
         Index found = kNone;
-        for (const int candidate : near_[i]) {
-            const auto other = static_cast<Index>(candidate);
+        for (const Index other : company_.near(i)) {
             if (other == i || ring_[other] != ring_[i]) continue;
             if (found != kNone && !shareCell(found, other)) break;
             if (found == kNone || placeIn(loop, other) < placeIn(loop, found)) found = other;
@@ -131,20 +92,18 @@ private:
         } while (a != one && b != other);
         const Index begin = a == one ? one : other;
         ++rings_;
-        Index i = begin;
-        do {
+        repeated_.any(begin, [&](Index i) {
             ring_[i] = rings_;
-            i = repeated_.next(i);
-        } while (i != begin);
+            return false;
+        });
     }
 
     const gk_Loop& walked_;
-    Rings vertices_;
-    Rings repeated_; // those that have others near them
-    std::vector<std::vector<int>> near_;
+    gk_VertexCompany company_;
+    gk_LoopRings vertices_;
+    gk_LoopRings repeated_;   // those that have others near them
     std::vector<Index> ring_; // which one a repeated vertex is in
     Index rings_ = 0;
-    Index first_ = kNone;
 };
 
 } // namespace
