@@ -6,8 +6,20 @@
 
 #include <cstddef>
 
-// Where a scan with std::min and std::max, place by place, ends: NaN is passed over but at the first place, and
-// of equal numbers the first one counts, which shows between 0 and -0.
+// An extreme coordinate with the bits of the first place that has it: of equal numbers the first one counts,
+// which shows between 0 and -0. at(i) is the place number i as gk_TwoDoubles.
+template <class At> gkVector<2> gk_WithSignOfFirst(const gkVector<2>& extreme, std::size_t count, At at) {
+    const auto signedZero = [&](double number, auto coordinate) {
+        if (number != 0.0) return number;
+        for (std::size_t i = 0; i < count; ++i)
+            if (coordinate(at(i)) == 0.0) return coordinate(at(i));
+        return number;
+    };
+    return gkVector<2>(signedZero(extreme.x(), [](gk_TwoDoubles place) { return place.first(); }),
+                       signedZero(extreme.y(), [](gk_TwoDoubles place) { return place.second(); }));
+}
+
+// Where a scan with std::min and std::max, place by place, ends: NaN is passed over but at the first place.
 class gk_Extremes {
 public:
     // at(i) is the place number i as gk_TwoDoubles; there is one at least.
@@ -35,25 +47,14 @@ public:
         }
         low = otherLow.orLess(low);
         high = otherHigh.orGreater(high);
-        low_ = signedZeros(gk_VectorOf(low), count, at);
-        high_ = signedZeros(gk_VectorOf(high), count, at);
+        low_ = gk_WithSignOfFirst(gk_VectorOf(low), count, at);
+        high_ = gk_WithSignOfFirst(gk_VectorOf(high), count, at);
     }
 
     const gkVector<2>& low() const { return low_; }
     const gkVector<2>& high() const { return high_; }
 
 private:
-    template <class At> static gkVector<2> signedZeros(const gkVector<2>& extreme, std::size_t count, At at) {
-        return gkVector<2>(signedZero(extreme.x(), count, [&](std::size_t i) { return at(i).first(); }),
-                           signedZero(extreme.y(), count, [&](std::size_t i) { return at(i).second(); }));
-    }
-    template <class Number> static double signedZero(double extreme, std::size_t count, Number number) {
-        if (extreme != 0.0) return extreme;
-        for (std::size_t i = 0; i < count; ++i)
-            if (number(i) == 0.0) return number(i);
-        return extreme;
-    }
-
     gkVector<2> low_;
     gkVector<2> high_;
 };

@@ -74,9 +74,6 @@ template <class FirstGreatest> long extremalVertex(const gkRadian& angle, FirstG
     return firstGreatest(AlongDirection(direction));
 }
 
-// The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
-bool isIdentity(const gkXform<2>& xform) { return gfRealEq(xform, gkXform<2>(), 1e-15); }
-
 // A side moves only strictly further out, as gkRect::enclose says.
 template <class Mapped> gkRect boxOf(const std::vector<gkVector<2>>& points, Mapped mapped) {
     const gk_Extremes extremes(points.size(), [&](std::size_t i) { return mapped(gk_TwoOf(points[i])); });
@@ -84,6 +81,8 @@ template <class Mapped> gkRect boxOf(const std::vector<gkVector<2>>& points, Map
 }
 
 } // namespace
+
+bool gk_IsIdentity(const gkXform<2>& xform) { return gfRealEq(xform, gkXform<2>(), 1e-15); }
 
 double gk_Length(const std::vector<gkVector<2>>& points, bool closed) {
     double length = 0.0;
@@ -162,7 +161,7 @@ long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gk_VertexRu
 }
 
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform) {
-    if (isIdentity(xform)) return boxOf(points, [](gk_TwoDoubles p) { return p; });
+    if (gk_IsIdentity(xform)) return boxOf(points, [](gk_TwoDoubles p) { return p; });
     const gkMatrix<2>& m = xform.matrix();
     const gk_TwoDoubles column0(m.element(0, 0), m.element(1, 0));
     const gk_TwoDoubles column1(m.element(0, 1), m.element(1, 1));
@@ -174,7 +173,7 @@ gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& 
 
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gk_VertexRuns& runs,
                       const gkXform<2>& xform) {
-    if (isIdentity(xform)) return gk_EncloseRect(points, xform);
+    if (gk_IsIdentity(xform)) return gk_EncloseRect(points, xform);
     const gk_XformOps map(xform);
     const gkVector<2> first = map.image(points[0]);
     const auto farthest = [&](int row, double sign) {

@@ -32,6 +32,9 @@ long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gkRadian& a
 long gk_ExtremalVertex(const std::vector<gkVector<2>>& points, const gk_VertexRuns& runs,
                        const gkRadian& angle);
 
+// The identity takes the vertices as they are, and so does a transform within 1e-15 of it.
+bool gk_IsIdentity(const gkXform<2>& xform);
+
 // Box of the vertices mapped by `xform`; `points` must not be empty.
 gkRect gk_EncloseRect(const std::vector<gkVector<2>>& points, const gkXform<2>& xform);
 // The same from runs of the vertices.

@@ -17,7 +17,7 @@ void gk_Outline::check() const {
 }
 
 const gkRect& gk_Outline::box() {
-    if (!box_) box_ = gk_EncloseRect(points_, gkXform<2>());
+    if (!box_) box_ = search_.encloseRect(points_, gkXform<2>());
     return *box_;
 }
 
@@ -82,7 +82,8 @@ bool gk_Outline::seesOutside(const gkVector<2>& point, gk_RaysMet& met) {
 
 bool gk_Outline::inside(const gkVector<2>& point) {
     check();
+    gk_Inside known = search_.insideByScan(segments(), point);
     if (!box().within(point)) return false;
-    const gk_Inside known = search_.inside(segments(), point, rayLength());
+    if (known == gk_Inside::eUnknown) known = search_.insideByCells(segments(), point, rayLength());
     return known != gk_Inside::eUnknown ? known == gk_Inside::eInside : insideCount(point, false) % 2 == 1;
 }

@@ -78,9 +78,14 @@ long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
 }
 
 bool gkRegion::insideOutline(const gkVector<2>& point) const {
-    if (!encloseRect(gkXform<2>()).within(point)) return false;
+    gkContour::checkEmptyContour();
     const gk_Segments outline(points(), true);
-    const gk_Inside known = search().inside(outline, point, diameter(gkContourDefs::eApproximate));
+    gk_Inside known = search().insideByScan(outline, point);
+    if (!encloseRect(gkXform<2>()).within(point)) return false;
+    if (known == gk_Inside::eUnknown)
+        known = search().insideByCells(outline, point, diameter(gkContourDefs::eApproximate));
+    else if (search().isFirstAnswer())
+        mutating(); // as the circle would, which a ray needs and a scan does not
     return known != gk_Inside::eUnknown ? known == gk_Inside::eInside : insideCount(point, false) % 2 == 1;
 }
 

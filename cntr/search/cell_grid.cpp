@@ -27,7 +27,7 @@ std::optional<gk_CellGrid> gk_CellGrid::of(const gk_Segments& outline) {
     grid.reach_ = std::max(gk_Reach({box->x0, box->y0}), gk_Reach({box->x1, box->y1}));
     const double extent = (box->x1 - box->x0) + (box->y1 - box->y0);
     const gk_InsideCertificate certificate(outline.vertexCount(), {box->x0, box->y0}, 2.0 * extent, *box);
-    grid.margin_ = certificate.vertexDistance() + gk_DistanceSlack(grid.reach_);
+    grid.margin_ = certificate.margins().vertex + gk_DistanceSlack(grid.reach_);
     if (!(box->x1 - box->x0 > 4.0 * grid.margin_) || !(box->y1 - box->y0 > 4.0 * grid.margin_))
         return std::nullopt;
     grid.shape(outline);

@@ -21,14 +21,13 @@ gk_Inside gk_InsideByCells(const gk_Segments& outline, const gk_SegmentCells& ce
     bool odd = cells.isMiddleOdd(column, row);
     if (!segments.empty()) {
         const gkVector<2> middle = grid.middleOf(column, row);
-        const double margin = certificate.segmentDistance();
+        const gk_InsideMargins& margins = certificate.margins();
         for (const std::uint32_t k : segments) {
             const gkVector<2>& a = outline.first(k);
             const gkVector<2>& b = outline.second(k);
-            if (certificate.isVertexNear(a, point) || certificate.isVertexNear(b, point))
-                return gk_Inside::eUnknown;
-            if (gk_Box::of(a, b).grownBy(margin).holds(point) &&
-                gk_LineOps::distToPoint(gkLineSeg(a, b), point) <= margin)
+            if (margins.isVertexNear(a, point) || margins.isVertexNear(b, point)) return gk_Inside::eUnknown;
+            if (gk_Box::of(a, b).grownBy(margins.segment).holds(point) &&
+                gk_LineOps::distToPoint(gkLineSeg(a, b), point) <= margins.segment)
                 return gk_Inside::eUnknown;
             odd = odd != gk_InsideParity::crossesWay(a, b, middle, point);
         }

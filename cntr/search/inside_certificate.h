@@ -23,52 +23,65 @@ enum class gk_Inside { eOutside, eInside, eUnknown };
 // on the ray is found within a touch of both and counts once, and one before the ray's start or behind its end,
 // where the segment passes farther than t, does not. The count then has the parity of the crossings on a way
 // from the point to the outside.
+struct gk_InsideMargins {
+    double segment; // t
+    double vertex;  // t / sin(pi / 2n) and a little more
+
+    gk_InsideMargins(std::size_t vertexCount, double slack) : segment(4e-6 + slack) {
+        const double halfGap = 3.141592653589793 / (2.0 * static_cast<double>(vertexCount));
+        vertex = 1.01 * segment / gk_Trig::sinCos(halfGap).sin;
+    }
+
+    bool isVertexNear(const gkVector<2>& vertexPlace, const gkVector<2>& point) const {
+        return std::fabs(vertexPlace.x() - point.x()) <= vertex &&
+               std::fabs(vertexPlace.y() - point.y()) <= vertex;
+    }
+};
+
 class gk_InsideCertificate {
 public:
+    // The slack that is small enough for any ray.
+    static constexpr double kMostSlack = 1e-6;
+
     // `first` is vertex 0, `rayLength` = D twice the distance of the farthest vertex from it, `box` the
     // vertices' own.
     gk_InsideCertificate(std::size_t vertexCount, const gkVector<2>& first, double rayLength, const gk_Box& box)
-        : first_(first), rayLength_(rayLength), box_(box) {
-        const double reach = std::max(gk_Reach({box.x0, box.y0}), gk_Reach({box.x1, box.y1}));
-        const double slack = 8.0 * gk_DistanceSlack(reach + rayLength);
-        isExact_ = slack <= 1e-6;
-        touch_ = 4e-6 + slack;
-        const double halfGap = 3.141592653589793 / (2.0 * static_cast<double>(vertexCount));
-        vertexDistance_ = 1.01 * touch_ / gk_Trig::sinCos(halfGap).sin;
-    }
+        : gk_InsideCertificate(vertexCount, first, rayLength, rayLength, box) {}
+    // Where D is only known to be between two numbers.
+    gk_InsideCertificate(std::size_t vertexCount, const gkVector<2>& first, double leastLength,
+                         double greatestLength, const gk_Box& box)
+        : first_(first), rayLength_(leastLength), box_(box), slack_(slackOf(greatestLength, box)),
+          margins_(vertexCount, slack_) {}
 
     // Least distances of segments and of vertices from the point.
-    double segmentDistance() const { return touch_; }
-    double vertexDistance() const { return vertexDistance_; }
+    const gk_InsideMargins& margins() const { return margins_; }
 
-    // The slack is small enough for any ray.
-    bool isExact() const { return isExact_; }
+    bool isExact() const { return slack_ <= kMostSlack; }
     // A ray that ends here ends outside the outline and away from it.
     bool allowsEnd(const gkVector<2>& end) const {
-        return gk_VectorOps::distance(first_, end) > rayLength_ / 2.0 + touch_;
+        return gk_VectorOps::distance(first_, end) > rayLength_ / 2.0 + margins_.segment;
     }
     // The slack is small enough, and no ray from the point ends inside the outline or at it: the outline lies
     // within D / 2 of its first vertex, and within its box.
     bool allowsRaysFrom(const gkVector<2>& point) const {
-        if (!isExact_) return false;
-        if (gk_VectorOps::distance(first_, point) < rayLength_ / 2.0 - touch_) return true;
+        if (!isExact()) return false;
+        if (gk_VectorOps::distance(first_, point) < rayLength_ / 2.0 - margins_.segment) return true;
         const gkVector<2> farthest(std::max(point.x() - box_.x0, box_.x1 - point.x()),
                                    std::max(point.y() - box_.y0, box_.y1 - point.y()));
-        return gk_VectorOps::length(farthest) < rayLength_ - touch_;
-    }
-
-    bool isVertexNear(const gkVector<2>& vertex, const gkVector<2>& point) const {
-        return std::fabs(vertex.x() - point.x()) <= vertexDistance_ &&
-               std::fabs(vertex.y() - point.y()) <= vertexDistance_;
+        return gk_VectorOps::length(farthest) < rayLength_ - margins_.segment;
     }
 
 private:
+    static double slackOf(double rayLength, const gk_Box& box) {
+        const double reach = std::max(gk_Reach({box.x0, box.y0}), gk_Reach({box.x1, box.y1}));
+        return 8.0 * gk_DistanceSlack(reach + rayLength);
+    }
+
     gkVector<2> first_;
     double rayLength_;
     gk_Box box_;
-    bool isExact_;
-    double touch_;
-    double vertexDistance_;
+    double slack_;
+    gk_InsideMargins margins_;
 };
 
 #endif

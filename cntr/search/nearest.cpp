@@ -2,6 +2,7 @@
 
 #include "cntr/search/cell_block.h"
 #include "cntr/search/magnitude.h"
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/shapes/line_ops.h"
 
 #include <limits>
@@ -37,17 +38,24 @@ private:
 double slackOf(double reach, const gkVector<2>& p) { return gk_DistanceSlack(std::max(reach, gk_Reach(p))); }
 
 constexpr std::size_t kRun = 8; // segments that share a box in a scan
+// Of 32, 64 and 128 the quickest for 1 000 and for 100 000 segments.
+constexpr std::size_t kBetweenSamples = 64;
 
-// Whether the square of a length keeps too few bits for bounds on the distances computed from it.
-bool isTooShort(const gk_Box& box) {
-    const double length = (box.x1 - box.x0) + (box.y1 - box.y0);
+// Whether the square of a segment's length keeps too few bits for bounds on the distances computed from it.
+bool isTooShort(const gkVector<2>& a, const gkVector<2>& b) {
+    const gk_TwoDoubles along = (gk_TwoOf(b) - gk_TwoOf(a)).magnitude();
+    const double length = along.first() + along.second();
     return length > 0.0 && length < 10.0 * std::sqrt(kShortestSquare);
 }
 
-// Whether a segment in the box can be too short: neighbouring doubles are closer than that only beside 0.
-bool mayHoldTooShort(const gk_Box& box) {
+// Whether a segment of the run in the box is too short: neighbouring doubles are closer than that only beside
+// 0.
+bool holdsTooShort(const gk_Segments& segments, std::size_t begin, std::size_t end, const gk_Box& box) {
     const auto isNearZero = [](double low, double high) { return low < 1e-120 && high > -1e-120; };
-    return isNearZero(box.x0, box.x1) || isNearZero(box.y0, box.y1);
+    if (!isNearZero(box.x0, box.x1) && !isNearZero(box.y0, box.y1)) return false;
+    for (std::size_t k = begin; k < end; ++k)
+        if (isTooShort(segments.first(k), segments.second(k))) return true;
+    return false;
 }
 
 // Offers what is listed in the cells around p until all the rest is certainly farther than the best; false when
@@ -83,6 +91,9 @@ bool isFoundInCells(const gk_SegmentCells& cells, const gkVector<2>& p, const Be
 std::size_t gk_NearestSegment(const gk_Segments& segments, const gkVector<2>& p) {
     const bool isModerate = gk_IsModerate(p);
     Best best(kNoSegment);
+    // A few segments all around tell soon how near the nearest is at least.
+    for (std::size_t k = 0; k < segments.size(); k += kBetweenSamples)
+        best.offer(gk_LineOps::distToPoint(gkLineSeg(segments.first(k), segments.second(k)), p), k);
     for (std::size_t begin = 0; begin < segments.size(); begin += kRun) {
         const std::size_t end = std::min(begin + kRun, segments.size());
         const gk_Box run = gk_RunBox(segments, {begin, end});
@@ -90,12 +101,12 @@ std::size_t gk_NearestSegment(const gk_Segments& segments, const gkVector<2>& p)
         const bool isBox = run.x0 <= run.x1 && run.y0 <= run.y1; // not when it starts with a NaN
         const bool isBounded = isModerate && isBox && reach <= kGreatestCoordinate;
         const double farther2 = isBounded ? best.farther2(gk_DistanceSlack(reach)) : kInfinity;
-        const bool mayBeTooShort = mayHoldTooShort(run);
-        if (run.distance2(p) > farther2 && !mayBeTooShort) continue;
+        const bool hasTooShort = holdsTooShort(segments, begin, end, run);
+        if (run.distance2(p) > farther2 && !hasTooShort) continue;
         for (std::size_t k = begin; k < end; ++k) {
             const gkLineSeg segment(segments.first(k), segments.second(k));
-            const gk_Box box = gk_Box::of(segment.p1(), segment.p2());
-            if (box.distance2(p) > farther2 && !(mayBeTooShort && isTooShort(box))) continue;
+            const bool isFar = gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2;
+            if (isFar && !(hasTooShort && isTooShort(segment.p1(), segment.p2()))) continue;
             best.offer(gk_LineOps::distToPoint(segment, p), k);
         }
     }

@@ -78,7 +78,7 @@ const gk_SegmentCells* gk_OutlineSearch::crowdedCells(const gk_Segments& outline
 
 const gk_OutlineSearch::InsideIndex* gk_OutlineSearch::insideIndexWhenAsked(const gk_Segments& outline,
                                                                             double rayLength) {
-    if (inside_ || !isFrom(kCellsFrom, askedInside_) || !cells(outline)) return inside_.get();
+    if (inside_ || askedInside_ < kCellsFrom || !cells(outline)) return inside_.get();
     const gk_InsideCertificate certificate(outline.vertexCount(), outline.vertex(0), rayLength,
                                            cells_->grid().box());
     inside_ = std::make_shared<const InsideIndex>(InsideIndex{certificate, cells_});
@@ -121,6 +121,8 @@ long gk_OutlineSearch::extremalVertex(const Points& points, const gkRadian& angl
 }
 
 gkRect gk_OutlineSearch::encloseRect(const Points& points, const gkXform<2>& xform) {
+    if (ownBox_ && gk_IsIdentity(xform))
+        return gkRect::fromCorners({ownBox_->x0, ownBox_->y0}, {ownBox_->x1, ownBox_->y1});
     const gk_VertexRuns* const runs = vertexRunsWhenAsked(points);
     return runs == nullptr ? gk_EncloseRect(points, xform) : gk_EncloseRect(points, *runs, xform);
 }
@@ -203,16 +205,19 @@ bool gk_OutlineSearch::seesOutside(const gk_Segments& outline, const gkVector<2>
     return !meets(point + ray, met.forward) || !meets(point - ray, met.backward);
 }
 
-gk_Inside gk_OutlineSearch::inside(const gk_Segments& outline, const gkVector<2>& point, double rayLength) {
+gk_Inside gk_OutlineSearch::insideByScan(const gk_Segments& outline, const gkVector<2>& point) {
+    const bool hasCells = isFrom(kCellsFrom, askedInside_) && cells(outline);
+    if (hasCells || !gk_IsModerate(point) || (ownBox_ && !ownBox_->holds(point))) return gk_Inside::eUnknown;
+    const gk_InsideScan scan = gk_ScanInside(outline, point);
+    ownBox_ = scan.box;
+    return scan.inside;
+}
+
+gk_Inside gk_OutlineSearch::insideByCells(const gk_Segments& outline, const gkVector<2>& point,
+                                          double rayLength) {
     if (!(rayLength <= kGreatestCoordinate) || !gk_IsModerate(point)) return gk_Inside::eUnknown;
     const InsideIndex* const index = insideIndexWhenAsked(outline, rayLength);
-    if (index == nullptr) {
-        const gkVector<2>& first = outline.vertex(0);
-        const gk_Box around = gk_Box::of(first, first).grownBy(rayLength / 2.0);
-        const gk_InsideCertificate certificate(outline.vertexCount(), first, rayLength, around);
-        return certificate.allowsRaysFrom(point) ? gk_ScanInside(outline, certificate, point)
-                                                 : gk_Inside::eUnknown;
-    }
+    if (index == nullptr) return gk_Inside::eUnknown;
     if (!index->certificate.isExact()) return gk_Inside::eUnknown;
     if (!index->certificate.allowsRaysFrom(point)) {
         const gk_SegmentTree* const boxes = tree(outline);

@@ -20,6 +20,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 // Segments that a ray and its opposite met: rays that start nearby often meet them or their neighbours.
@@ -65,8 +66,12 @@ public:
     long insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength, bool bothWays);
     // Whether the count both ways is 0.
     bool seesOutside(const gk_Segments& outline, const gkVector<2>& point, double rayLength, gk_RaysMet& met);
-    // Whether that count is odd, where it is known without counting.
-    gk_Inside inside(const gk_Segments& outline, const gkVector<2>& point, double rayLength);
+    // Whether that count is odd, where it is known without counting. The first questions are answered by a
+    // scan, which needs no ray and brings the box along for encloseRect(); later ones from cells.
+    gk_Inside insideByScan(const gk_Segments& outline, const gkVector<2>& point);
+    gk_Inside insideByCells(const gk_Segments& outline, const gkVector<2>& point, double rayLength);
+    // True once.
+    bool isFirstAnswer() { return !std::exchange(hasAnswered_, true); }
 
 private:
     struct InsideIndex {
@@ -92,10 +97,12 @@ private:
     std::shared_ptr<const gk_SegmentCells> cells_;
     std::shared_ptr<const gk_VertexRuns> runs_;
     gk_VertexCells vertexCells_;
+    std::optional<gk_Box> ownBox_;
     std::uint32_t asked_ = 0;
     std::uint32_t askedVertices_ = 0;
     std::uint32_t askedInside_ = 0;
     std::uint32_t askedDirections_ = 0;
+    bool hasAnswered_ = false;
     bool treeTried_ = false;
     bool cellsTried_ = false;
     bool crowdTried_ = false;

@@ -2,6 +2,7 @@
 
 #include "cntr/search/magnitude.h"
 #include "cntr/search/space_order.h"
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/math/vector_ops.h"
 
 #include <utility>
@@ -35,10 +36,14 @@ std::optional<gk_SegmentTree> gk_SegmentTree::of(const gk_Segments& segments) {
 }
 
 gk_Box gk_RunBox(const gk_Segments& segments, gk_SegmentTree::Range range) {
-    gk_Box box = gk_Box::of(segments.first(range.begin), segments.first(range.begin));
-    for (std::size_t k = range.begin; k < range.end; ++k)
-        box = box.enclosing(gk_Box::of(segments.second(k), segments.second(k)));
-    return box;
+    gk_TwoDoubles low = gk_TwoOf(segments.first(range.begin));
+    gk_TwoDoubles high = low;
+    for (std::size_t k = range.begin; k < range.end; ++k) {
+        const gk_TwoDoubles place = gk_TwoOf(segments.second(k));
+        low = place.orLess(low);
+        high = place.orGreater(high);
+    }
+    return {low.first(), low.second(), high.first(), high.second()};
 }
 
 bool gk_SegmentTree::measureRuns(const gk_Segments& segments, std::vector<gk_Box>& runBoxes) {

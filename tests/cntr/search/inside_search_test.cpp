@@ -9,6 +9,9 @@
 #include "tests/support/answer.h"
 #include "tests/support/shapes.h"
 
+#include <cmath>
+#include <limits>
+
 namespace {
 
 using gen::Points;
@@ -43,20 +46,36 @@ TEST(InsideSearch, WhatAScanKnowsIsThePlainAnswer) {
     search::each(12, [&](const Points& points, std::uint64_t seed) {
         if (points.size() < 2) return;
         const gk_Segments outline(points, true);
-        const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
-        if (!(rayLength <= kGreatestCoordinate)) return;
-        const gk_Box around = gk_Box::of(points.front(), points.front()).grownBy(rayLength / 2.0);
-        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, around);
         const gkRect box = gk_EncloseRect(points, gkXform<2>());
         for (const gkVector<2>& p : probes(points, seed)) {
-            if (!box.within(p) || !gk_IsModerate(p) || !certificate.allowsRaysFrom(p)) continue;
-            const gk_Inside known = gk_ScanInside(outline, certificate, p);
-            counts.add(known);
-            if (known == gk_Inside::eUnknown) continue;
-            ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(known)) << p;
+            if (!box.within(p) || !gk_IsModerate(p)) continue;
+            const gk_InsideScan scan = gk_ScanInside(outline, p);
+            counts.add(scan.inside);
+            if (scan.box) {
+                ASSERT_EQ(
+                    answer([&] { return box; }), answer([&] {
+                        return gkRect::fromCorners({scan.box->x0, scan.box->y0}, {scan.box->x1, scan.box->y1});
+                    }));
+            }
+            if (scan.inside == gk_Inside::eUnknown) continue;
+            ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(scan.inside)) << p;
         }
     });
     EXPECT_LT(counts.asked / 3, counts.known); // the rest lies on edges and at vertices
+}
+
+TEST(InsideSearch, AScanTakesTheBoxOfModerateNumbersOnly) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const gkVector<2>& bad : {gkVector<2>(nan, 9), gkVector<2>(9, nan), gkVector<2>(0, 2e140),
+                                   gkVector<2>(-INFINITY, 0), gkVector<2>(INFINITY, 9)}) {
+        for (std::size_t place = 0; place < 6; ++place) {
+            Points points = {{0, 0}, {1, 0}, {2, 5}, {1, 1}, {0, 7}, {-1, 3}};
+            points[place] = bad;
+            const gk_InsideScan scan = gk_ScanInside(gk_Segments(points, true), {0.5, 0.25});
+            EXPECT_FALSE(scan.box) << place << bad;
+            EXPECT_EQ(gk_Inside::eUnknown, scan.inside) << place << bad;
+        }
+    }
 }
 
 TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
