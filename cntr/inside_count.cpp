@@ -109,31 +109,41 @@ std::optional<double> nextDirection(const gk_Segments& outline, const gk_Segment
 // they are computed have the exact signs.
 class Sector {
 public:
-    Sector(const View& view, const gkVector<2>& point, double widest, double slack)
-        : view_(view), point_(point), slack_(slack), isNarrow_(widest < kNarrow) {
-        const gk_Trig::SinCos side = gk_Trig::sinCos(widest + kAngleRoom);
-        slope_ = side.sin / side.cos;
-        greatestTurn_ = View::greatestTurn(widest);
-    }
+    Sector(const View& view, const gkVector<2>& point, double begin, double end, double slack)
+        : view_(view), point_(point), slack_(slack), isNarrow_(end < kNarrow),
+          least_(isNarrow_ ? std::max(slopeOf(begin - kAngleRoom), 0.0) : 0.0),
+          greatest_(isNarrow_ ? slopeOf(end + kAngleRoom) : View::greatestTurn(end)) {}
 
     // False only when no direction to a vertex in the box is one of these.
     bool mayHold(const gk_Box& box) const {
-        if (!isNarrow_) return view_.leastTurn(box) <= greatestTurn_;
+        if (!isNarrow_) return view_.leastTurn(box) <= greatest_;
+        const double left = box.x0 - point_.x();
         const double right = box.x1 - point_.x();
-        return right >= -slack_ && box.y1 - point_.y() >= -slack_ &&
-               box.y0 - point_.y() <= slope_ * std::max(right, 0.0) + slack_;
+        return right >= -slack_ && box.y1 - point_.y() >= least_ * std::max(left, 0.0) - slack_ &&
+               box.y0 - point_.y() <= greatest_ * std::max(right, 0.0) + slack_;
     }
-    bool mayHold(const gkVector<2>& vertex) const { return mayHold(gk_Box::of(vertex, vertex)); }
+    bool mayHold(const gkVector<2>& vertex) const {
+        if (!isNarrow_) return view_.leastTurn(gk_Box::of(vertex, vertex)) <= greatest_;
+        const gkVector<2> offset = vertex - point_;
+        const double across = std::max(offset.x(), 0.0);
+        return offset.y() <= greatest_ * across + slack_ && offset.y() >= least_ * across - slack_ &&
+               offset.x() >= -slack_;
+    }
 
 private:
     static constexpr double kNarrow = 1.5; // radians, below a right angle
+
+    static double slopeOf(double angle) {
+        const gk_Trig::SinCos side = gk_Trig::sinCos(angle);
+        return side.sin / side.cos;
+    }
 
     const View& view_;
     gkVector<2> point_;
     double slack_;
     bool isNarrow_;
-    double slope_;
-    double greatestTurn_;
+    double least_;
+    double greatest_; // a slope or a turn
 };
 
 // directionOf() within kAngleRoom, quicker where it can be. The series leaves out s^7 / 7.
@@ -165,10 +175,7 @@ public:
         seen_.push_back({angle, vertex});
     }
 
-    bool isEmpty() const { return seen_.empty(); }
-
-    // nextAfter(direction) tells the next one of all vertices.
-    template <class NextAfter> std::optional<gkVector<2>> firstWide(NextAfter nextAfter) const {
+    std::optional<gkVector<2>> firstWide() const {
         double from = kNone;
         for (const Column& column : columns_) {
             if (column.least == kNone) continue;
@@ -179,12 +186,16 @@ public:
             }
             from = column.greatest;
         }
-        if (from == kNone || !(end_ - from > step_ + 4.0 * kAngleRoom)) return std::nullopt;
-        const double lower = exactly(from).greatest;
-        const std::optional<double> next = nextAfter(lower);
-        if (!next) return std::nullopt;
-        return middleOf(lower, gapBetween(lower, *next));
+        return std::nullopt;
     }
+
+    bool isEmpty() const { return seen_.empty(); }
+    // The last direction, and whether there is none in the second half, so that the gap behind it is wide,
+    // whatever comes next.
+    double last() const { return exactly(greatest()).greatest; }
+    bool endsInEmptyHalf() const { return greatest() < begin_ + (end_ - begin_) / 2.0; }
+    // Where to look on when no gap was wide: before the last direction.
+    double resume() const { return isEmpty() ? begin_ : std::max(0.0, greatest() - 4.0 * kAngleRoom); }
 
 private:
     static constexpr double kNone = 1e300;
@@ -196,6 +207,12 @@ private:
         double angle;
         std::size_t vertex;
     };
+
+    double greatest() const {
+        for (auto column = columns_.rbegin(); column != columns_.rend(); ++column)
+            if (column->least != kNone) return column->greatest;
+        return begin_;
+    }
 
     // The directions of those that are nearly known as `angle`.
     Column exactly(double angle) const {
@@ -232,19 +249,18 @@ std::optional<gkVector<2>> gk_RayDirection(const gk_Segments& outline, const gkV
 }
 
 // The gaps are walked from angle 0 upwards, so the first wide one is known as soon as all directions up to it
-// are: those up to some gaps, and up to more while no wide one is among them. Where there are none so early the
-// first one is looked for.
+// are: those up to some gaps, then those of more gaps from the last one on. Where none comes for long the next
+// one is looked for by itself.
 std::optional<gkVector<2>> gk_RayDirection(const gk_Segments& outline, const gk_SegmentTree& tree,
                                            const gkVector<2>& point) {
     const double slack = gk_DistanceSlack(std::max(tree.reach(), gk_Reach(point)));
     if (isOnVertex(outline, tree, point, slack)) return std::nullopt;
     const View view(point, slack);
-    const auto nextAfter = [&](double angle) { return nextDirection(outline, tree, point, view, angle); };
     const double step = kPi / static_cast<double>(outline.vertexCount());
     double begin = 0.0;
     for (double gaps = kFirstGaps; begin + gaps * step < kMostTurn; gaps *= kGapGrowth) {
         Gaps found(outline, point, step, begin, gaps);
-        const Sector sector(view, point, begin + gaps * step, slack);
+        const Sector sector(view, point, begin, begin + gaps * step, slack);
         tree.any([&](const gk_Box& box) { return sector.mayHold(box); },
                  [&](std::size_t run) {
                      const gk_SegmentTree::Range range = tree.verticesOf(run);
@@ -252,11 +268,15 @@ std::optional<gkVector<2>> gk_RayDirection(const gk_Segments& outline, const gk_
                          if (sector.mayHold(outline.vertex(i))) found.add(i);
                      return false;
                  });
-        if (const std::optional<gkVector<2>> direction = found.firstWide(nextAfter)) return direction;
-        if (!found.isEmpty()) continue;
-        const std::optional<double> first = nextAfter(-1.0);
-        if (!first) break;
-        begin = std::max(0.0, *first - 2.0 * kAngleRoom);
+        if (const std::optional<gkVector<2>> direction = found.firstWide()) return direction;
+        begin = found.resume();
+        if (!found.isEmpty() && !found.endsInEmptyHalf()) continue;
+        const double last = found.isEmpty() ? -1.0 : found.last();
+        const std::optional<double> next = nextDirection(outline, tree, point, view, last);
+        if (!next) break;
+        if (!found.isEmpty()) return middleOf(last, gapBetween(last, *next));
+        begin = std::max(0.0, *next - 4.0 * kAngleRoom);
+        gaps = kFirstGaps / kGapGrowth;
     }
     return gk_RayDirection(outline, point);
 }
