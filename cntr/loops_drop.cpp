@@ -31,6 +31,6 @@ std::vector<gk_Loop> gk_DropInnerLoops(std::vector<gk_Loop> loops) {
     }
     std::vector<gk_Loop> left;
     left.reserve(outlines.size());
-    for (const gk_Outline& outline : outlines) left.push_back(outline.points());
+    for (gk_Outline& outline : outlines) left.push_back(outline.takePoints());
     return left;
 }

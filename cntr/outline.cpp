@@ -9,8 +9,8 @@
 gk_Outline::gk_Outline(std::vector<gkVector<2>> points)
     : points_(std::move(points)), size_(gk_SizeAsLoop(points_.size())) {}
 
-gk_Outline::gk_Outline(std::vector<gkVector<2>> points, const gkRect& box)
-    : points_(std::move(points)), size_(gk_SizeAsLoop(points_.size())), box_(box) {}
+gk_Outline::gk_Outline(std::vector<gkVector<2>> points, const gkRect& box, const gk_OutlineSearch& search)
+    : points_(std::move(points)), size_(gk_SizeAsLoop(points_.size())), box_(box), search_(search) {}
 
 void gk_Outline::check() const {
     if (points_.size() < 2) throw gkContourDefs::EmptyContour(L"");

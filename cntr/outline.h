@@ -8,6 +8,7 @@
 #include "platform/core/shapes/rect.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 // wrap(a, m) of the repair's index arithmetic: one correction in each direction, not a modulo.
@@ -22,10 +23,12 @@ inline long gk_WrapOnce(long a, long m) {
 class gk_Outline {
 public:
     explicit gk_Outline(std::vector<gkVector<2>> points);
-    // With the box that the owner of the vertices keeps, which need not be their own.
-    gk_Outline(std::vector<gkVector<2>> points, const gkRect& box);
+    // With the box that the owner of the vertices keeps, which need not be their own, and with what it has
+    // found out about them as a closed outline.
+    gk_Outline(std::vector<gkVector<2>> points, const gkRect& box, const gk_OutlineSearch& search);
 
-    const std::vector<gkVector<2>>& points() const { return points_; }
+    // The vertices, which it has no more.
+    std::vector<gkVector<2>> takePoints() { return std::move(points_); }
     long size() const { return size_; }
     const gkVector<2>& operator[](long index) const { return points_[static_cast<std::size_t>(index)]; }
     // The vertex at an index that may run up to once past either end.

@@ -31,7 +31,7 @@ void gkRegion::repairOnce(gk_Kept<gkPtrHandle<gkRegion>>& kept, bool outerHull, 
 
 void gkRegion::outerHullRegularize(gkRegion& result, bool outerHull) const {
     checkEmptyContour();
-    gk_Outline outline(points(), encloseRect(gkXform<2>()));
+    gk_Outline outline(points(), encloseRect(gkXform<2>()), search());
     const long start = gk_StartEdge(outline, medianFeatureSize() / 100.0);
     gk_Loop walked = gk_WalkBoundary(outline, start);
     if (!outerHull) {

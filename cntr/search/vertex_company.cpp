@@ -2,9 +2,8 @@
 
 #include "cntr/search/outline_search.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
-#include <cstring>
 
 namespace {
 
@@ -15,7 +14,7 @@ using Index = gk_VertexCompany::Index;
 class Cells {
 public:
     Cells(const std::vector<gkVector<2>>& points, double tolerance)
-        : points_(points), reach_(1.001 * tolerance), size_(64.0 * tolerance) {
+        : points_(points), reach_(1.001 * tolerance), cellsPerUnit_(1.0 / (64.0 * tolerance)) {
         std::size_t buckets = 16;
         while (buckets < 2 * points.size()) buckets *= 2;
         heads_.assign(buckets, kEnd);
@@ -25,11 +24,15 @@ public:
     // Calls meet(other) for every earlier vertex within the reach, some more than once.
     template <class Meet> void add(Index vertex, Meet meet) {
         const gkVector<2>& p = points_[vertex];
-        const std::array<double, 2> columns = {cell(p.x() - reach_), cell(p.x() + reach_)};
-        const std::array<double, 2> rows = {cell(p.y() - reach_), cell(p.y() + reach_)};
-        for (std::size_t i = 0; i < (columns[0] == columns[1] ? 1 : 2); ++i)
-            for (std::size_t k = 0; k < (rows[0] == rows[1] ? 1 : 2); ++k)
-                addTo(bucket(columns[i], rows[k]), vertex, meet);
+        const std::int64_t left = cell(p.x() - reach_);
+        const std::int64_t right = cell(p.x() + reach_);
+        const std::int64_t low = cell(p.y() - reach_);
+        const std::int64_t high = cell(p.y() + reach_);
+        addTo(bucket(left, low), vertex, meet);
+        if (left == right && low == high) return;
+        if (left != right) addTo(bucket(right, low), vertex, meet);
+        if (low != high) addTo(bucket(left, high), vertex, meet);
+        if (left != right && low != high) addTo(bucket(right, high), vertex, meet);
     }
 
 private:
@@ -39,13 +42,16 @@ private:
         Index next;
     };
 
-    double cell(double value) const { return std::floor(value / size_) + 0.0; } // no -0, whose bits differ
+    // Beyond the greatest number all are in one; the two cells about 0 are one.
+    std::int64_t cell(double value) const {
+        constexpr double kOutermost = 4611686018427387904.0; // 2^62
+        return static_cast<std::int64_t>(std::min(std::max(value * cellsPerUnit_, -kOutermost), kOutermost));
+    }
 
-    std::size_t bucket(double column, double row) const {
-        std::uint64_t bits[2];
-        std::memcpy(&bits[0], &column, sizeof column);
-        std::memcpy(&bits[1], &row, sizeof row);
-        const std::uint64_t mixed = (bits[0] * 0x9E3779B97F4A7C15u ^ bits[1]) * 0xD1B54A32D192ED03u;
+    std::size_t bucket(std::int64_t column, std::int64_t row) const {
+        const std::uint64_t mixed =
+            (static_cast<std::uint64_t>(column) * 0x9E3779B97F4A7C15u + static_cast<std::uint64_t>(row)) *
+            0xD1B54A32D192ED03u;
         return static_cast<std::size_t>(mixed >> 32) & (heads_.size() - 1);
     }
 
@@ -62,7 +68,7 @@ private:
 
     const std::vector<gkVector<2>>& points_;
     double reach_;
-    double size_;
+    double cellsPerUnit_;
     std::vector<Index> heads_;
     std::vector<Entry> entries_;
 };
@@ -79,9 +85,10 @@ bool hasNan(const std::vector<gkVector<2>>& points) {
 // may have company are asked for as a list of their own.
 gk_VertexCompany::gk_VertexCompany(const std::vector<gkVector<2>>& points, double tolerance)
     : place_(points.size(), kAlone) {
-    std::vector<bool> mayHave(points.size(), hasNan(points));
+    const bool askAll = hasNan(points);
+    std::vector<bool> mayHave(points.size(), askAll);
     Cells cells(points, tolerance);
-    for (Index i = 0; i < points.size(); ++i) {
+    for (Index i = 0; i < points.size() && !askAll; ++i) {
         cells.add(i, [&](Index other) {
             mayHave[i] = true;
             mayHave[other] = true;
