@@ -4,32 +4,17 @@
 #define GK_CNTR_BOUNDED_MAP_H
 
 #include "cntr/eviction.h"
-
-#include <cstddef>
-#include <utility>
+#include "cntr/kept_map.h"
 
 // Inserts a key that the map does not hold. Up to limit + 1 entries are kept: the one beyond the limit is
 // meant. A full map loses the entry at a random position in key order; its size stays.
-template <class Map>
-void gk_InsertBounded(Map& map, const typename Map::key_type& key, const typename Map::mapped_type& value,
+template <class Key, class Value, class Less>
+void gk_InsertBounded(gk_KeptMap<Key, Value, Less>& map, const Key& key, const Value& value,
                       std::size_t limit) {
-    if (map.key_comp()(key, key))
-        return; // a key with NaN has no place in the order and could never be found again
-    if (map.size() <= limit) {
-        map.emplace(key, value);
-        return;
-    }
-    const std::size_t evicted = gk_RandomIndex(map.size());
-    Map next;
-    std::size_t position = 0;
-    for (const auto& entry : map) {
-        if (position++ == evicted) {
-            next.emplace(key, value);
-        } else {
-            next.insert(entry);
-        }
-    }
-    map = std::move(next);
+    if (Less()(key, key)) return; // a key with NaN has no place in the order and could never be found again
+    // What is left out makes room for what comes in, so no memory is asked for in between.
+    if (map.size() > limit) map.erase(gk_RandomIndex(map.size()));
+    map.insert(key, value);
 }
 
 #endif

@@ -157,8 +157,7 @@ void gkContour::makeDataConsistentWithPoints() { cleanCacheInfo(); }
 void gkContour::makePointsConsistentWithData() { cleanCacheInfo(); }
 
 void gkContour::initializePointers() {
-    caches_.encloseRects.reset();
-    caches_.extremalVertices.reset();
+    caches_.encloseRects.clear();
     caches_.search.reset();
 }
 
@@ -170,14 +169,15 @@ void gkContour::cleanCacheInfo() {
     caches_.mark.noteChange();
     deletePointers();
     caches_.segments.reset();
-    caches_.meanPosition.valid = false;
     caches_.length = gk_Kept<double>();
-    caches_.convexHull.valid = false;
-    caches_.ellipseFit.valid = false;
-    caches_.ellipseFit.value.error = 0.0;
     caches_.selfIntersecting.valid = false;
-    caches_.medianFeatureSize = gk_Kept<double>();
     // The circles stay, only their flags go: encloseCircle may answer with a circle from before.
-    caches_.circleValid.assign(2, false);
-    caches_.circles.resize(2);
+    for (gk_Kept<gkCircle>& circle : caches_.circles) circle.valid = false;
+    Rare* const rare = caches_.rare.get();
+    if (rare == nullptr) return;
+    rare->meanPosition.valid = false;
+    rare->convexHull.valid = false;
+    rare->extremalVertices.clear();
+    rare->ellipseFit.valid = false;
+    rare->medianFeatureSize.valid = false;
 }

@@ -6,6 +6,7 @@
 #include "cntr/change_mark.h"
 #include "cntr/contour_defs.h"
 #include "cntr/kept.h"
+#include "cntr/kept_map.h"
 #include "platform/core/math/angle.h"
 #include "platform/core/math/pair.h"
 #include "platform/core/math/vector.h"
@@ -23,7 +24,6 @@
 #include "platform/export.h"
 
 #include <cstdint>
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -283,8 +283,17 @@ private:
         double error = 0.0;
     };
 
-    using RectMap = std::map<gkXform<2>, gkRect, gsSTLLessPredicate>;
-    using ExtremalMap = std::map<gkRadian, std::int32_t, gsSTLLessPredicate>;
+    using RectMap = gk_KeptMap<gkXform<2>, gkRect, gsSTLLessPredicate>;
+    using ExtremalMap = gk_KeptMap<gkRadian, std::int32_t, gsSTLLessPredicate>;
+
+    /// What few contours are asked for.
+    struct Rare {
+        gk_Kept<gkVector<2>> meanPosition;
+        gk_Kept<gkPtrHandle<gkRegion>> convexHull; // the last hull stays alive until it is replaced
+        ExtremalMap extremalVertices;
+        gk_Kept<EllipseFit> ellipseFit;
+        gk_Kept<double> medianFeatureSize;
+    };
 
     struct GKCNTR_API Caches {
         Caches();
@@ -292,19 +301,15 @@ private:
         Caches& operator=(Caches&& other) noexcept;
         ~Caches();
 
-        gk_Kept<gkVector<2>> meanPosition;
         gk_Kept<double> length;
-        gk_Kept<gkPtrHandle<gkRegion>> convexHull; // the last hull stays alive until it is replaced
-        gk_Owned<RectMap> encloseRects;
-        std::vector<bool> circleValid; // by DiameterMode
-        std::vector<gkCircle> circles; // outlive their flags: the exact search may leave the last one in place
-        gk_Owned<ExtremalMap> extremalVertices;
-        gk_Kept<EllipseFit> ellipseFit;
+        gk_Kept<bool> selfIntersecting;
+        gk_ChangeMark mark;
+        gk_Kept<gkCircle>
+            circles[2]; // by DiameterMode; outlive their flags: the exact search may leave the last
+        RectMap encloseRects;
         gk_Owned<gk_SegmentCache> segments;
         gk_Owned<gk_OutlineSearch> search;
-        gk_Kept<bool> selfIntersecting;
-        gk_Kept<double> medianFeatureSize;
-        gk_ChangeMark mark;
+        gk_Owned<Rare> rare;
     };
 
     static gkPersistent* make();
@@ -317,7 +322,7 @@ private:
     /// The box kept under the identity's key, null when there is none.
     const gkRect* keptBox() const;
     /// Counts as a change when an index could take the kept boxes for others than they now become.
-    void noteNewBox(const gkXform<2>& xform, const RectMap& known) const;
+    void noteNewBox(const gkXform<2>& xform) const;
 
     Value value_;
     mutable Caches caches_;

@@ -19,29 +19,30 @@ double gkContour::length() const {
 
 gkVector<2> gkContour::meanPosition() const {
     checkEmptyContour();
-    if (!caches_.meanPosition.valid) {
-        caches_.meanPosition.value = gk_MeanPosition(value_.points, isClosed());
-        caches_.meanPosition.valid = true;
+    gk_Kept<gkVector<2>>& kept = caches_.rare.made().meanPosition;
+    if (!kept.valid) {
+        kept.value = gk_MeanPosition(value_.points, isClosed());
+        kept.valid = true;
         mutating();
     }
-    return caches_.meanPosition.value;
+    return kept.value;
 }
 
 gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     if (mode != gkContourDefs::eExact && mode != gkContourDefs::eApproximate) {
         throw gkContourDefs::BadParams(L"diameterMode is not one of the valid enums");
     }
-    const auto slot = static_cast<std::size_t>(mode);
-    if (caches_.circleValid[slot]) return caches_.circles[slot];
+    gk_Kept<gkCircle>& kept = caches_.circles[mode];
+    if (kept.valid) return kept.value;
     if (mode == gkContourDefs::eExact) {
-        search().circleOverFarthestPair(value_.points, caches_.circles[slot]);
+        search().circleOverFarthestPair(value_.points, kept.value);
     } else {
         if (value_.points.empty()) throw gkContourDefs::EmptyContour(L"");
-        caches_.circles[slot] = gk_CircleAroundFirst(value_.points);
+        kept.value = gk_CircleAroundFirst(value_.points);
     }
-    caches_.circleValid[slot] = true;
+    kept.valid = true;
     mutating();
-    return caches_.circles[slot];
+    return kept.value;
 }
 
 double gkContour::diameter(gkContourDefs::DiameterMode mode) const {
@@ -50,9 +51,8 @@ double gkContour::diameter(gkContourDefs::DiameterMode mode) const {
 
 long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     checkEmptyContour();
-    ExtremalMap& known = caches_.extremalVertices.made();
-    const auto entry = known.find(angle);
-    if (entry != known.end()) return entry->second;
+    ExtremalMap& known = caches_.rare.made().extremalVertices;
+    if (const std::int32_t* const kept = known.find(angle)) return *kept;
     const long index = search().extremalVertex(value_.points, angle);
     gk_InsertBounded(known, angle, static_cast<std::int32_t>(index),
                      static_cast<std::size_t>(cachedVectorSize()));
@@ -68,52 +68,50 @@ gkVector<2> gkContour::extremalVertexPosition(const gkRadian& angle) const {
 
 gkRect gkContour::encloseRect(const gkXform<2>& xform) const {
     checkEmptyContour();
-    RectMap& known = caches_.encloseRects.made();
-    const auto entry = known.find(xform);
-    if (entry != known.end()) return entry->second;
-    const gkRect rect = search().encloseRect(value_.points, xform);
-    noteNewBox(xform, known);
-    gk_InsertBounded(known, xform, rect, static_cast<std::size_t>(cachedVectorSize()));
+    if (const gkRect* const kept = caches_.encloseRects.find(xform)) return *kept;
+    const gkRect rect = gk_OutlineSearch::isNeededFor(value_.points)
+                            ? search().encloseRect(value_.points, xform)
+                            : gk_EncloseRect(value_.points, xform);
+    noteNewBox(xform);
+    gk_InsertBounded(caches_.encloseRects, xform, rect, static_cast<std::size_t>(cachedVectorSize()));
     mutating();
     return rect;
 }
 
-const gkRect* gkContour::keptBox() const {
-    if (!caches_.encloseRects.get()) return nullptr;
-    const auto entry = caches_.encloseRects.get()->find(gkXform<2>());
-    return entry == caches_.encloseRects.get()->end() ? nullptr : &entry->second;
-}
+const gkRect* gkContour::keptBox() const { return caches_.encloseRects.find(gkXform<2>()); }
 
 // The identity's own box is what an index expects. Another transform may bring a box of its own under the
 // identity's key, or push the identity's box out, after which it would have to be asked for again.
-void gkContour::noteNewBox(const gkXform<2>& xform, const RectMap& known) const {
+void gkContour::noteNewBox(const gkXform<2>& xform) const {
     if (!caches_.mark.isSet()) return;
     const gsSTLLessPredicate isLess;
     const gkXform<2> identity;
     const bool hasItsKey = !isLess(xform, identity) && !isLess(identity, xform);
-    const bool pushesOut = known.size() > static_cast<std::size_t>(cachedVectorSize());
+    const bool pushesOut = caches_.encloseRects.size() > static_cast<std::size_t>(cachedVectorSize());
     if (hasItsKey ? xform.matrix().element(1, 1) != 1.0 : pushesOut) caches_.mark.noteChange();
 }
 
 void gkContour::convexHull(gkRegion& out) const {
     checkEmptyContour();
-    if (!caches_.convexHull.valid) {
-        caches_.convexHull.value = gkPtrHandle<gkRegion>(new gkRegion(gfConvexHull(value_.points)));
-        caches_.convexHull.valid = true;
+    gk_Kept<gkPtrHandle<gkRegion>>& kept = caches_.rare.made().convexHull;
+    if (!kept.valid) {
+        kept.value = gkPtrHandle<gkRegion>(new gkRegion(gfConvexHull(value_.points)));
+        kept.valid = true;
         mutating();
     }
     // A second handle: when `out` is this very contour, the assignment replaces the kept one.
-    const gkPtrHandle<gkRegion> hull = caches_.convexHull.value;
+    const gkPtrHandle<gkRegion> hull = kept.value;
     out = *hull;
 }
 
 void gkContour::fitEllipse(gkEllipse& ellipse, double& error) const {
     checkEmptyContour();
-    if (!caches_.ellipseFit.valid) {
-        gf_FitEllipse(value_.points, caches_.ellipseFit.value.ellipse, caches_.ellipseFit.value.error);
-        caches_.ellipseFit.valid = true;
+    gk_Kept<EllipseFit>& kept = caches_.rare.made().ellipseFit;
+    if (!kept.valid) {
+        gf_FitEllipse(value_.points, kept.value.ellipse, kept.value.error);
+        kept.valid = true;
         mutating();
     }
-    ellipse = caches_.ellipseFit.value.ellipse;
-    error = caches_.ellipseFit.value.error;
+    ellipse = kept.value.ellipse;
+    error = kept.value.error;
 }

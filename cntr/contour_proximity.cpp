@@ -1,6 +1,7 @@
 #include "cntr/contour.h"
 #include "cntr/index.h"
 #include "cntr/measures.h"
+#include "cntr/region.h"
 #include "cntr/search/outline_search.h"
 #include "cntr/segment_cache.h"
 
@@ -46,10 +47,11 @@ std::vector<int> gkContour::vertexIndex(const gkVector<2>& p, double tolerance) 
 
 double gkContour::medianFeatureSize() const {
     checkEmptyContour();
-    if (!caches_.medianFeatureSize.valid) {
-        caches_.medianFeatureSize.value = gk_MedianSegmentLength(value_.points, isClosed());
-        caches_.medianFeatureSize.valid = true;
+    gk_Kept<double>& kept = caches_.rare.made().medianFeatureSize;
+    if (!kept.valid) {
+        kept.value = gk_MedianSegmentLength(value_.points, isClosed());
+        kept.valid = true;
         mutating();
     }
-    return caches_.medianFeatureSize.value;
+    return kept.value;
 }

@@ -26,6 +26,7 @@ public:
     ~gk_Owned() = default;
 
     const T* get() const { return object_.get(); }
+    T* get() { return object_.get(); }
     /// The object, made by its default constructor when there is none yet.
     T& made() {
         if (!object_) object_ = std::make_unique<T>();

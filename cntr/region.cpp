@@ -92,14 +92,16 @@ void gkRegion::checkEmptyContour() const {
 
 void gkRegion::cleanCacheInfo() {
     gkContour::cleanCacheInfo();
-    caches_.centerOfMassWithHoles.valid = false;
-    caches_.centerOfMass.valid = false;
-    caches_.areaWithHoles = gk_Kept<double>();
     caches_.area = gk_Kept<double>();
-    caches_.inertiaWithHoles.valid = false;
-    caches_.inertia.valid = false;
-    caches_.regularized.valid = false;
-    caches_.outerHull.valid = false;
+    Rare* const rare = caches_.rare.get();
+    if (rare == nullptr) return;
+    rare->centerOfMassWithHoles.valid = false;
+    rare->centerOfMass.valid = false;
+    rare->areaWithHoles = gk_Kept<double>();
+    rare->inertiaWithHoles.valid = false;
+    rare->inertia.valid = false;
+    rare->regularized.valid = false;
+    rare->outerHull.valid = false;
 }
 
 void gkRegion::forgetHandles() noexcept {

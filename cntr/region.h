@@ -187,15 +187,20 @@ private:
     friend class gkRegionSet;
 
     using Holes = std::vector<gkPtrHandle_const<gkRegion>>;
-    struct Caches {
+    using Repaired = gk_Kept<gkPtrHandle<gkRegion>>;
+    /// What few regions are asked for.
+    struct Rare {
         gk_Kept<gkVector<2>> centerOfMassWithHoles; // the value is only ever copied, never computed
         gk_Kept<gkVector<2>> centerOfMass;
         gk_Kept<double> areaWithHoles;
-        gk_Kept<double> area;
         gk_Kept<gkMatrix<2>> inertiaWithHoles; // never valid: second moments with holes are not offered
         gk_Kept<gkMatrix<2>> inertia;
-        gk_Kept<gkPtrHandle<gkRegion>> regularized;
-        gk_Kept<gkPtrHandle<gkRegion>> outerHull;
+        Repaired regularized;
+        Repaired outerHull;
+    };
+    struct Caches {
+        gk_Kept<double> area;
+        gk_Owned<Rare> rare;
     };
     struct Chain;
 
@@ -213,7 +218,7 @@ private:
     long insideCount(const gkVector<2>& point, bool bothWays) const;
     bool insideOutline(const gkVector<2>& point) const;
     bool insideChained(const gkVector<2>& point, bool considerHoles, const Chain* outer) const;
-    void repairOnce(gk_Kept<gkPtrHandle<gkRegion>>& kept, bool outerHull, gkRegion& result) const;
+    void repairOnce(Repaired Rare::*slot, bool outerHull, gkRegion& result) const;
     void outerHullRegularize(gkRegion& result, bool outerHull) const;
     void splice(const gkRegion& other, gkRegion& result) const;
 

@@ -2,6 +2,7 @@
 #include "cntr/index.h"
 #include "cntr/moments.h"
 #include "cntr/region.h"
+#include "cntr/search/inside_scan.h"
 #include "cntr/search/outline_search.h"
 
 double gkRegion::area(bool considerHoles) const {
@@ -12,27 +13,30 @@ double gkRegion::area(bool considerHoles) const {
         mutating();
     }
     if (!considerHoles) return caches_.area.value;
-    if (!caches_.areaWithHoles.valid) {
+    gk_Kept<double>& kept = caches_.rare.made().areaWithHoles;
+    if (!kept.valid) {
         double holeArea = 0.0;
         for (const auto& hole : holes_) holeArea += hole->area(false);
-        caches_.areaWithHoles.value = caches_.area.value - holeArea;
-        caches_.areaWithHoles.valid = true;
+        kept.value = caches_.area.value - holeArea;
+        kept.valid = true;
         mutating();
     }
-    return caches_.areaWithHoles.value;
+    return kept.value;
 }
 
 gkVector<2> gkRegion::centerOfMass(bool considerHoles) const {
     checkEmptyContour();
     if (!considerHoles || holes_.empty()) {
-        if (!caches_.centerOfMass.valid) {
-            caches_.centerOfMass.value = gf_CenterOfMass(points());
-            caches_.centerOfMass.valid = true;
+        gk_Kept<gkVector<2>>& kept = caches_.rare.made().centerOfMass;
+        if (!kept.valid) {
+            kept.value = gf_CenterOfMass(points());
+            kept.valid = true;
             mutating();
         }
-        return caches_.centerOfMass.value;
+        return kept.value;
     }
-    if (caches_.centerOfMassWithHoles.valid) return caches_.centerOfMassWithHoles.value;
+    gk_Kept<gkVector<2>>& kept = caches_.rare.made().centerOfMassWithHoles;
+    if (kept.valid) return kept.value;
     double remaining = area(false);
     gkVector<2> moment = centerOfMass(false) * area(false);
     for (const auto& hole : holes_) {
@@ -40,7 +44,7 @@ gkVector<2> gkRegion::centerOfMass(bool considerHoles) const {
         remaining -= hole->area(false);
     }
     // The flag is set but the value not stored, so later calls return the field as it was. Meant; do not mend.
-    caches_.centerOfMassWithHoles.valid = true;
+    kept.valid = true;
     mutating();
     return moment / remaining;
 }
@@ -50,12 +54,13 @@ gkMatrix<2> gkRegion::inertiaMatrix(bool considerHoles) const {
     if (considerHoles && !holes_.empty()) {
         throw gkContourDefs::BadParams(L"inertiaMatrix(considerHoles) is not implemented");
     }
-    if (!caches_.inertia.valid) {
-        caches_.inertia.value = gf_InertiaDataPolygon(points()).inertiaMatrix();
-        caches_.inertia.valid = true;
+    gk_Kept<gkMatrix<2>>& kept = caches_.rare.made().inertia;
+    if (!kept.valid) {
+        kept.value = gf_InertiaDataPolygon(points()).inertiaMatrix();
+        kept.valid = true;
         mutating();
     }
-    return caches_.inertia.value;
+    return kept.value;
 }
 
 // The regions whose holes are being asked, innermost first.
@@ -80,12 +85,17 @@ long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
 bool gkRegion::insideOutline(const gkVector<2>& point) const {
     gkContour::checkEmptyContour();
     const gk_Segments outline(points(), true);
-    gk_Inside known = search().insideByScan(outline, point);
+    const bool isLarge = gk_OutlineSearch::isNeededFor(points());
+    gk_Inside known = isLarge ? search().insideByScan(outline, point) : gk_Inside::eUnknown;
     if (!encloseRect(gkXform<2>()).within(point)) return false;
-    if (known == gk_Inside::eUnknown)
-        known = search().insideByCells(outline, point, diameter(gkContourDefs::eApproximate));
-    else if (search().isFirstAnswer())
-        mutating(); // as the circle would, which a ray needs and a scan does not
+    if (!isLarge) known = gk_ScanInside(outline, point).inside;
+    // A ray needs its length, and keeps it; where none is cast the first answer counts as that result.
+    if (!isLarge || known == gk_Inside::eUnknown) {
+        const double rayLength = diameter(gkContourDefs::eApproximate);
+        if (isLarge) known = search().insideByCells(outline, point, rayLength);
+    } else if (search().isFirstAnswer()) {
+        mutating();
+    }
     return known != gk_Inside::eUnknown ? known == gk_Inside::eInside : insideCount(point, false) % 2 == 1;
 }
 

@@ -8,15 +8,16 @@
 
 #include <utility>
 
-void gkRegion::regularize(gkRegion& result) const { repairOnce(caches_.regularized, false, result); }
+void gkRegion::regularize(gkRegion& result) const { repairOnce(&Rare::regularized, false, result); }
 
-void gkRegion::outerHull(gkRegion& result) const { repairOnce(caches_.outerHull, true, result); }
+void gkRegion::outerHull(gkRegion& result) const { repairOnce(&Rare::outerHull, true, result); }
 
-void gkRegion::repairOnce(gk_Kept<gkPtrHandle<gkRegion>>& kept, bool outerHull, gkRegion& result) const {
+void gkRegion::repairOnce(Repaired Rare::*slot, bool outerHull, gkRegion& result) const {
     if (!isSelfIntersecting()) {
         result = *this;
         return;
     }
+    Repaired& kept = caches_.rare.made().*slot;
     if (!kept.valid) {
         const gkPtrHandle<gkRegion> repaired(new gkRegion);
         outerHullRegularize(*repaired, outerHull);

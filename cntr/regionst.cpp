@@ -112,7 +112,7 @@ void gkRegionSet::makeDataConsistentWithPoints() { cleanCacheInfo(); }
 void gkRegionSet::makePointsConsistentWithData() { cleanCacheInfo(); }
 
 void gkRegionSet::initializePointers() {
-    caches_.encloseRects.reset();
+    caches_.encloseRects.clear();
     caches_.search.reset();
 }
 

@@ -126,7 +126,7 @@ protected:
 
 private:
     using Regions = std::vector<gkPtrHandle_const<gkRegion>>;
-    using RectMap = std::map<gkXform<2>, gkRect, gkContour::gsSTLLessPredicate>;
+    using RectMap = gk_KeptMap<gkXform<2>, gkRect, gkContour::gsSTLLessPredicate>;
 
     struct GKCNTR_API Caches {
         Caches();
@@ -138,7 +138,7 @@ private:
         gk_Kept<gkVector<2>> centerOfMass;
         gk_Kept<double> areaWithHoles;
         gk_Kept<double> area;
-        gk_Owned<RectMap> encloseRects;
+        RectMap encloseRects;
         gk_Kept<gkMatrix<2>> inertiaWithHoles;
         gk_Kept<gkMatrix<2>> inertia;
         gk_Kept<bool> selfIntersecting;
@@ -153,7 +153,7 @@ private:
     void repair(gkContourDefs::IntersectionMode mode);
     void repairOnce(gk_Kept<gkPtrHandle<gkRegionSet>>& kept, bool outerHull, gkRegionSet& result) const;
     void outerHullRegularize(gkRegionSet& result, bool outerHull) const;
-    /// The map of boxes, which the set owns by pointer, is absent until the first encloseRect.
+    /// What the set owns by pointer is absent until the first question that asks for it.
     void initializePointers();
     void deletePointers();
 

@@ -65,12 +65,10 @@ double gkRegionSet::distToPoint(const gkVector<2>& point, bool verticesOnly, boo
 
 gkRect gkRegionSet::encloseRect(const gkXform<2>& xform) const {
     checkEmptyRegionSet();
-    RectMap& known = caches_.encloseRects.made();
-    const auto entry = known.find(xform);
-    if (entry != known.end()) return entry->second;
+    if (const gkRect* const kept = caches_.encloseRects.find(xform)) return *kept;
     gkRect rect = regions_.front()->encloseRect(xform);
     for (std::size_t i = 1; i < regions_.size(); ++i) rect = rect.enclose(regions_[i]->encloseRect(xform));
-    gk_InsertBounded(known, xform, rect, static_cast<std::size_t>(cachedVectorSize_));
+    gk_InsertBounded(caches_.encloseRects, xform, rect, static_cast<std::size_t>(cachedVectorSize_));
     mutating();
     return rect;
 }

@@ -31,6 +31,8 @@ bool isFrom(std::uint32_t question, std::uint32_t& asked) {
 
 } // namespace
 
+bool gk_OutlineSearch::isNeededFor(const Points& points) { return points.size() >= kFewestForTree; }
+
 const gk_SegmentTree* gk_OutlineSearch::tree(const gk_Segments& outline) {
     if (!treeTried_ && outline.size() >= kFewestForTree) {
         if (std::optional<gk_SegmentTree> built = gk_SegmentTree::of(outline))

@@ -38,6 +38,9 @@ class gk_OutlineSearch {
 public:
     using Points = std::vector<gkVector<2>>;
 
+    // False for outlines so small that all their questions are answered by scans; none needs to be made then.
+    static bool isNeededFor(const Points& points);
+
     std::size_t nearestVertex(const Points& points, bool closed, const gkVector<2>& p);
     // In the order of gk_VertexCells.
     std::vector<int> verticesWithin(const Points& points, const gkVector<2>& p, double tolerance);
