@@ -82,7 +82,9 @@ template <class Mapped> gkRect boxOf(const std::vector<gkVector<2>>& points, Map
 
 } // namespace
 
-bool gk_IsIdentity(const gkXform<2>& xform) { return gfRealEq(xform, gkXform<2>(), 1e-15); }
+bool gk_IsIdentity(const gkXform<2>& xform) {
+    return xform == gkXform<2>() || gfRealEq(xform, gkXform<2>(), 1e-15);
+}
 
 double gk_Length(const std::vector<gkVector<2>>& points, bool closed) {
     double length = 0.0;

@@ -4,7 +4,6 @@
 
 #include "cntr/search/box.h"
 #include "cntr/search/magnitude.h"
-#include "platform/core/math/trig.h"
 #include "platform/core/math/vector_ops.h"
 
 enum class gk_Inside { eOutside, eInside, eUnknown };
@@ -29,7 +28,8 @@ struct gk_InsideMargins {
 
     gk_InsideMargins(std::size_t vertexCount, double slack) : segment(4e-6 + slack) {
         const double halfGap = 3.141592653589793 / (2.0 * static_cast<double>(vertexCount));
-        vertex = 1.01 * segment / gk_Trig::sinCos(halfGap).sin;
+        const double leastSine = halfGap * (1.0 - halfGap * halfGap / 6.0); // the series' first two terms
+        vertex = 1.01 * segment / leastSine;
     }
 
     bool isVertexNear(const gkVector<2>& vertexPlace, const gkVector<2>& point) const {
