@@ -35,6 +35,17 @@ private:
     std::size_t index_;
 };
 
+// gk_Box::distance2 of a segment's box. What is NaN widens the box, so the segment is not passed over for it.
+double boxDistance2(const gkVector<2>& a, const gkVector<2>& b, const gkVector<2>& p) {
+    const gk_TwoDoubles one = gk_TwoOf(a);
+    const gk_TwoDoubles other = gk_TwoOf(b);
+    const gk_TwoDoubles place = gk_TwoOf(p);
+    const gk_TwoDoubles gap = (one.orLess(other) - place).orGreater(place - one.orGreater(other));
+    const gk_TwoDoubles outside = gap.orGreater(gk_TwoDoubles());
+    const gk_TwoDoubles squares = outside * outside;
+    return squares.first() + squares.second();
+}
+
 double slackOf(double reach, const gkVector<2>& p) { return gk_DistanceSlack(std::max(reach, gk_Reach(p))); }
 
 constexpr std::size_t kRun = 8; // segments that share a box in a scan
@@ -105,7 +116,7 @@ std::size_t gk_NearestSegment(const gk_Segments& segments, const gkVector<2>& p)
         if (run.distance2(p) > farther2 && !hasTooShort) continue;
         for (std::size_t k = begin; k < end; ++k) {
             const gkLineSeg segment(segments.first(k), segments.second(k));
-            const bool isFar = gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2;
+            const bool isFar = boxDistance2(segment.p1(), segment.p2(), p) > farther2;
             if (isFar && !(hasTooShort && isTooShort(segment.p1(), segment.p2()))) continue;
             best.offer(gk_LineOps::distToPoint(segment, p), k);
         }
@@ -123,7 +134,7 @@ std::size_t gk_NearestSegment(const gk_Segments& segments, const gk_SegmentTree&
             const gk_SegmentTree::Range range = tree.segmentsOf(run);
             for (std::size_t k = range.begin; k < range.end; ++k) {
                 const gkLineSeg segment(segments.first(k), segments.second(k));
-                if (gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2) continue;
+                if (boxDistance2(segment.p1(), segment.p2(), p) > farther2) continue;
                 if (best.offer(gk_LineOps::distToPoint(segment, p), k)) farther2 = best.farther2(slack);
             }
         });
@@ -137,7 +148,7 @@ std::optional<std::size_t> gk_NearestSegment(const gk_Segments& segments, const 
     double farther2 = kInfinity;
     const bool isFound = isFoundInCells(cells, p, best, [&](std::size_t k) {
         const gkLineSeg segment(segments.first(k), segments.second(k));
-        if (gk_Box::of(segment.p1(), segment.p2()).distance2(p) > farther2) return;
+        if (boxDistance2(segment.p1(), segment.p2(), p) > farther2) return;
         if (best.offer(gk_LineOps::distToPoint(segment, p), k)) farther2 = best.farther2(slack);
     });
     return isFound ? std::optional<std::size_t>(best.index()) : std::nullopt;
