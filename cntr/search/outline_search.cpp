@@ -59,12 +59,14 @@ const gk_VertexTree* gk_OutlineSearch::vertexTreeWhenAsked(const Points& points)
     return isFrom(kTreeFrom, askedVertices_) ? vertexTree(points) : vertexTree_.get();
 }
 
-const gk_SegmentCells* gk_OutlineSearch::cells(const gk_Segments& outline) {
+const gk_SegmentCells* gk_OutlineSearch::cellsWithParity(const gk_Segments& outline) {
     if (!cells_ && !cellsTried_ && outline.size() >= kFewestForTree) {
         if (const std::optional<gk_CellGrid> grid = gk_CellGrid::of(outline))
             cells_ = std::make_shared<const gk_SegmentCells>(*grid, outline);
         cellsTried_ = true;
     }
+    if (cells_ && !cells_->knowsParity())
+        cells_ = std::make_shared<const gk_SegmentCells>(cells_->withParity(outline));
     return cells_.get();
 }
 
@@ -80,7 +82,7 @@ const gk_SegmentCells* gk_OutlineSearch::crowdedCells(const gk_Segments& outline
 
 const gk_OutlineSearch::InsideIndex* gk_OutlineSearch::insideIndexWhenAsked(const gk_Segments& outline,
                                                                             double rayLength) {
-    if (inside_ || askedInside_ < kCellsFrom || !cells(outline)) return inside_.get();
+    if (inside_ || askedInside_ < kCellsFrom || !cellsWithParity(outline)) return inside_.get();
     const gk_InsideCertificate certificate(outline.vertexCount(), outline.vertex(0), rayLength,
                                            cells_->grid().box());
     inside_ = std::make_shared<const InsideIndex>(InsideIndex{certificate, cells_});
@@ -208,7 +210,7 @@ bool gk_OutlineSearch::seesOutside(const gk_Segments& outline, const gkVector<2>
 }
 
 gk_Inside gk_OutlineSearch::insideByScan(const gk_Segments& outline, const gkVector<2>& point) {
-    const bool hasCells = isFrom(kCellsFrom, askedInside_) && cells(outline);
+    const bool hasCells = isFrom(kCellsFrom, askedInside_) && cellsWithParity(outline);
     if (hasCells || !gk_IsModerate(point) || (ownBox_ && !ownBox_->holds(point))) return gk_Inside::eUnknown;
     const gk_InsideScan scan = gk_ScanInside(outline, point);
     ownBox_ = scan.box;

@@ -86,7 +86,7 @@ private:
     const gk_SegmentTree* treeWhenAsked(const gk_Segments& outline);
     const gk_VertexTree* vertexTree(const Points& points);
     const gk_VertexTree* vertexTreeWhenAsked(const Points& points);
-    const gk_SegmentCells* cells(const gk_Segments& outline);
+    const gk_SegmentCells* cellsWithParity(const gk_Segments& outline);
     const gk_SegmentCells* crowdedCells(const gk_Segments& outline);
     const std::vector<std::uint32_t>* outerVertices(const Points& points);
     const gk_VertexRuns* vertexRunsWhenAsked(const Points& points);

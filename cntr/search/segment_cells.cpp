@@ -47,7 +47,13 @@ template <class Visit> void eachPassage(const gk_CellGrid& grid, const gk_Segmen
 gk_SegmentCells::gk_SegmentCells(const gk_CellGrid& grid, const gk_Segments& outline)
     : grid_(grid), marks_(grid.size() + 1, 0) {
     list(outline);
-    if (outline.closed()) markOddMiddles(outline);
+}
+
+gk_SegmentCells gk_SegmentCells::withParity(const gk_Segments& outline) const {
+    gk_SegmentCells cells = *this;
+    cells.markOddMiddles(outline);
+    cells.knowsParity_ = true;
+    return cells;
 }
 
 // Counts, then fills from the back, so that each list's beginning is what is left.

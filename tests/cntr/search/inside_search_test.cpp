@@ -87,7 +87,7 @@ TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
         if (!grid) return;
         const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
         const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, grid->box());
-        const gk_SegmentCells cells(*grid, outline);
+        const gk_SegmentCells cells = gk_SegmentCells(*grid, outline).withParity(outline);
         for (const gkVector<2>& p : probes(points, seed)) {
             if (!gk_IsModerate(p) || !certificate.allowsRaysFrom(p)) continue;
             const gk_Inside known = gk_InsideByCells(outline, cells, certificate, p);
