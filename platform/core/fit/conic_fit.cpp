@@ -6,6 +6,7 @@
 #define Eigen gk_Eigen
 
 #include "platform/core/fit/conic_fit.h"
+#include "platform/core/fit/scatter.h"
 
 #include <Eigen/Core>
 #include <Eigen/Jacobi>
@@ -97,12 +98,23 @@ Vector3d topOf(const Matrix3d& c) {
     return a / a.cwiseAbs().maxCoeff();
 }
 
+// From sums of powers, ten times as quickly, where the points are far enough from any conic.
+Triangle triangleOf(const gk_FitFrame& frame, const std::vector<gkVector<2>>& points) {
+    const gk_DesignFactor factor = gk_FactorOfSums(frame, points);
+    if (!factor.isSound) return triangleOf(frame.toFrame(points));
+    Triangle triangle;
+    for (std::size_t row = 0; row < 6; ++row)
+        for (std::size_t column = 0; column < 6; ++column)
+            triangle(static_cast<Index>(row), static_cast<Index>(column)) = factor.rows[row][column];
+    return triangle;
+}
+
 } // namespace
 
 // Halir and Flusser eliminate the linear part by normal equations; the triangular factor of the design matrix
 // does the same without squaring its condition.
-gk_Conic gk_FitConic(const std::vector<gkVector<2>>& points) {
-    const Triangle r = triangleOf(points);
+gk_Conic gk_FitConic(const gk_FitFrame& frame, const std::vector<gkVector<2>>& points) {
+    const Triangle r = triangleOf(frame, points);
     const Matrix3d linear = r.topLeftCorner<3, 3>();
     const Matrix3d mixed = r.topRightCorner<3, 3>();
     const Matrix3d rest = r.bottomRightCorner<3, 3>();

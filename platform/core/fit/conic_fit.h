@@ -2,7 +2,7 @@
 #ifndef GK_PLATFORM_CORE_FIT_CONIC_FIT_H
 #define GK_PLATFORM_CORE_FIT_CONIC_FIT_H
 
-#include "platform/core/math/vector.h"
+#include "platform/core/fit/fit_frame.h"
 
 #include <vector>
 
@@ -16,11 +16,10 @@ struct gk_Conic {
     double one;
 };
 
-// The conic that minimizes the sum of its squared values at `points` under 4 xx yy - xy^2 = 1, up to a factor.
-//
-// The points should be centred and of unit spread in both directions: the minimum does not depend on that (an
-// affine map multiplies the constraint by a constant), its rounding errors do. Not an ellipse, or NaN, when the
-// points determine none.
-gk_Conic gk_FitConic(const std::vector<gkVector<2>>& points);
+// The conic that minimizes the sum of its squared values at the points under 4 xx yy - xy^2 = 1, up to a
+// factor, in the frame of the points: the minimum does not depend on the coordinates (an affine map multiplies
+// the constraint by a constant), its rounding errors do. Not an ellipse, or NaN, when the points determine
+// none.
+gk_Conic gk_FitConic(const gk_FitFrame& frame, const std::vector<gkVector<2>>& points);
 
 #endif

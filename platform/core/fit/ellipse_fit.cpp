@@ -2,6 +2,7 @@
 
 #include "platform/core/fit/conic_fit.h"
 #include "platform/core/fit/fit_frame.h"
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/math/vector_ops.h"
 #include "platform/core/shapes/ellipse_frame.h"
 
@@ -38,14 +39,17 @@ bool hasFewestPoints(const Points& points) {
 
 // The power of two below which all coordinates lie.
 int exponentOf(const Points& points) {
-    double largest = 0.0;
-    for (const gkVector<2>& p : points) {
-        if (!std::isfinite(p.x()) || !std::isfinite(p.y()))
-            throw gkEllipseFitDefs::NotFinite(L"ellipse fit: a coordinate is not finite");
-        largest = std::max(largest, std::max(std::fabs(p.x()), std::fabs(p.y())));
+    gk_TwoDoubles reach;
+    gk_TwoDoubles zero;
+    for (const gkVector<2>& point : points) {
+        const gk_TwoDoubles p = gk_TwoOf(point);
+        reach = p.magnitude().orGreater(reach);
+        zero = zero + (p - p); // NaN from the first coordinate on that is none or infinite
     }
+    if (!(zero.first() == 0.0 && zero.second() == 0.0))
+        throw gkEllipseFitDefs::NotFinite(L"ellipse fit: a coordinate is not finite");
     int exponent = 0;
-    std::frexp(largest, &exponent);
+    std::frexp(std::max(reach.first(), reach.second()), &exponent);
     return exponent;
 }
 
@@ -123,7 +127,7 @@ Geom fitted(const Points& points, const gkRadian& circleAngle) {
     if (!hasFewestPoints(points)) refuseCount();
     const gk_FitFrame frame(points);
     if (frame.isFlat()) refuse();
-    Geom geom = geomOf(gk_FitConic(frame.toFrame(points)), frame);
+    Geom geom = geomOf(gk_FitConic(frame, points), frame);
     if (!isCircle(geom, frame.reach())) return geom;
     const double radius = meanDistance(points, geom.center.vector());
     return {geom.center, {radius, radius}, circleAngle};
@@ -144,12 +148,7 @@ std::size_t farthest(const Points& points, const Geom& geom) {
 
 double rootMeanSquare(const Points& points, const Geom& geom) {
     const gk_EllipseFrame ellipse(geom);
-    double squares = 0.0;
-    for (const gkVector<2>& p : points) {
-        const double distance = ellipse.distance(p);
-        squares += distance * distance;
-    }
-    return std::sqrt(squares / static_cast<double>(points.size()));
+    return std::sqrt(ellipse.sumOfSquares(points) / static_cast<double>(points.size()));
 }
 
 } // namespace
@@ -157,14 +156,18 @@ double rootMeanSquare(const Points& points, const Geom& geom) {
 void gfEllipseFit(const gkEllipseFitParams& params, const Points& points, gkEllipseFitResults& results) {
     if (params.mode() != gkEllipseFitDefs::eDirectLeastSquares || std::isnan(params.limit()))
         throw gkEllipseFitDefs::BadParams(L"ellipse fit: unknown mode or limit");
-    const int exponent = exponentOf(points);
+    constexpr int kModerate = 100; // powers whose squares and fourths are ordinary numbers
+    const int largest = exponentOf(points);
+    const int exponent = largest >= -kModerate && largest <= kModerate ? 0 : largest;
     if (params.count() >= points.size()) refuseCount(); // before many fits in vain
     // Scaling by a power of two is exact; the fit then cannot overflow, whatever the unit.
-    Points kept = scaled(points, -exponent);
+    Points changed;
+    if (exponent != 0 || params.count() > 0) changed = scaled(points, -exponent);
     for (unsigned long left = params.count(); left > 0; --left) {
-        const std::size_t worst = farthest(kept, fitted(kept, params.angle()));
-        kept.erase(kept.begin() + static_cast<std::ptrdiff_t>(worst));
+        const std::size_t worst = farthest(changed, fitted(changed, params.angle()));
+        changed.erase(changed.begin() + static_cast<std::ptrdiff_t>(worst));
     }
+    const Points& kept = changed.empty() ? points : changed;
     Geom geom = fitted(kept, params.angle());
     const double error = std::ldexp(rootMeanSquare(kept, geom), exponent);
     if (error > params.limit()) throw gkEllipseFitDefs::LimitExceeded(L"ellipse fit: error above the limit");

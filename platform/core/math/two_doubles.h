@@ -58,6 +58,7 @@ public:
     gk_TwoDoubles orGreater(gk_TwoDoubles other) const { return _mm_max_pd(both_, other.both_); }
     // The lesser one; the other when this is NaN.
     gk_TwoDoubles orLess(gk_TwoDoubles other) const { return _mm_min_pd(both_, other.both_); }
+    gk_TwoDoubles swapped() const { return _mm_shuffle_pd(both_, both_, 1); }
     // The value where the condition holds, +0 elsewhere.
     gk_TwoDoubles where(gk_TwoBools condition) const { return _mm_and_pd(condition.mask(), both_); }
     gk_TwoDoubles negatedUnless(gk_TwoBools condition) const {
@@ -135,6 +136,7 @@ public:
     gk_TwoDoubles root() const { return {std::sqrt(first_), std::sqrt(second_)}; }
     gk_TwoDoubles orGreater(gk_TwoDoubles other) const { return select(*this > other, *this, other); }
     gk_TwoDoubles orLess(gk_TwoDoubles other) const { return select(*this < other, *this, other); }
+    gk_TwoDoubles swapped() const { return {second_, first_}; }
     gk_TwoDoubles where(gk_TwoBools condition) const { return select(condition, *this, gk_TwoDoubles()); }
     gk_TwoDoubles negatedUnless(gk_TwoBools condition) const { return select(condition, *this, -*this); }
     static gk_TwoDoubles select(gk_TwoBools condition, gk_TwoDoubles yes, gk_TwoDoubles no) {

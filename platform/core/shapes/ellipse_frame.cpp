@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <limits>
 #include <utility>
 
@@ -95,4 +96,115 @@ double gk_EllipseFrame::distance(const gkVector<2>& p) const {
     const double scaled = scaledDistance(std::ldexp(big, -exponent), std::ldexp(small, -exponent),
                                          std::ldexp(x, -exponent), std::ldexp(y, -exponent));
     return std::ldexp(scaled, exponent);
+}
+
+namespace {
+
+// The squared distances of two points from an ellipse.
+//
+// With t, u and v as in distanceFromQuadrant, of |(u, v)| = 1. The reciprocal of |(u, v)| is nearly linear in
+// t, quite so for a circle, and concave, so that Newton's steps for it come from wherever they start to the
+// left of the root and then grow towards it (More and Sorensen, Computing a trust region step, 1983). From t =
+// small^2, the root for a point on the curve, two or three of them do: each squares what is left. The vector
+// from the nearest point is (x / (t + focus^2), y / t) times t - small^2.
+class TwoSquares {
+public:
+    TwoSquares(double big, double small, const gk_TwoVectors& point)
+        : x_(point.x), y_(point.y), a_(gk_TwoDoubles(big) * x_), b_(gk_TwoDoubles(small) * y_),
+          focus2_((big - small) * (big + small)), small2_(small * small), t_(small2_), p_(1.0 / (big * big)),
+          q_(1.0 / (small * small)) {}
+
+    void step() {
+        const gk_TwoDoubles one(1.0);
+        const gk_TwoDoubles u = a_ * p_;
+        const gk_TwoDoubles v = b_ * q_;
+        const gk_TwoDoubles uu = u * u;
+        const gk_TwoDoubles vv = v * v;
+        const gk_TwoDoubles norm2 = uu + vv;
+        growth_ = norm2 * (norm2.root() - one) / (uu * p_ + vv * q_);
+        t_ = b_.orGreater(t_ + growth_);
+        p_ = one / (t_ + focus2_);
+        q_ = one / t_;
+    }
+    // No further step would change more than the last digits.
+    bool isDone() const {
+        constexpr double kLastGrowth = 0x1p-26; // relative
+        return (growth_.magnitude() <= gk_TwoDoubles(kLastGrowth) * t_).all();
+    }
+    gk_TwoDoubles squares() const {
+        const gk_TwoDoubles alongX = x_ * p_;
+        const gk_TwoDoubles alongY = y_ * q_;
+        const gk_TwoDoubles depth = t_ - small2_;
+        return depth * depth * (alongX * alongX + alongY * alongY);
+    }
+
+private:
+    gk_TwoDoubles x_;
+    gk_TwoDoubles y_;
+    gk_TwoDoubles a_;
+    gk_TwoDoubles b_;
+    gk_TwoDoubles focus2_;
+    gk_TwoDoubles small2_;
+    gk_TwoDoubles t_;
+    gk_TwoDoubles p_; // 1 / (t + focus^2)
+    gk_TwoDoubles q_; // 1 / t
+    gk_TwoDoubles growth_;
+};
+
+} // namespace
+
+bool gk_EllipseFrame::fourSquares(const gkVector<2>* points, std::array<double, 4>& squares) const {
+    constexpr int kFewestSteps = 3; // asking after each takes longer, as the answer is hard to foresee
+    constexpr int kMostSteps = 8;
+    constexpr double kNearAxis = 0x1p-30;
+    const double big = std::max(radiusX_, radiusY_);
+    const double small = std::min(radiusX_, radiusY_);
+    const gk_TwoDoubles nearAxis(kNearAxis * small);
+    const auto local = [&](std::size_t i) {
+        const gk_TwoDoubles co(axis_.cos);
+        const gk_TwoDoubles si(axis_.sin);
+        const gk_TwoDoubles center = gk_TwoOf(center_);
+        const gk_TwoVectors d =
+            gk_TwoVectors::of(gk_TwoOf(points[i]) - center, gk_TwoOf(points[i + 1]) - center);
+        const gk_TwoDoubles x = (co * d.x + si * d.y).magnitude();
+        const gk_TwoDoubles y = (co * d.y - si * d.x).magnitude();
+        return radiusX_ < radiusY_ ? gk_TwoVectors{y, x} : gk_TwoVectors{x, y};
+    };
+    const gk_TwoVectors first = local(0);
+    const gk_TwoVectors second = local(2);
+    if (!((first.y >= nearAxis) & (second.y >= nearAxis)).all()) return false;
+    // Side by side, since each step waits for its own roots and divisions.
+    TwoSquares a(big, small, first);
+    TwoSquares b(big, small, second);
+    for (int step = 1; step <= kMostSteps; ++step) {
+        a.step();
+        b.step();
+        if (step < kFewestSteps || !a.isDone() || !b.isDone()) continue;
+        squares = {a.squares().first(), a.squares().second(), b.squares().first(), b.squares().second()};
+        return true;
+    }
+    return false;
+}
+
+double gk_EllipseFrame::sumOfSquares(const std::vector<gkVector<2>>& points) const {
+    double sum = 0.0;
+    std::array<double, 4> squares;
+    const auto ask = [&](const gkVector<2>* four) {
+        if (fourSquares(four, squares)) return;
+        for (std::size_t i = 0; i < 4; ++i) {
+            const double d = distance(four[i]);
+            squares[i] = d * d;
+        }
+    };
+    std::size_t begin = 0;
+    for (; begin + 4 <= points.size(); begin += 4) {
+        ask(&points[begin]);
+        for (const double square : squares) sum += square;
+    }
+    if (begin == points.size()) return sum;
+    std::array<gkVector<2>, 4> rest;
+    for (std::size_t i = 0; i < 4; ++i) rest[i] = points[std::min(begin + i, points.size() - 1)];
+    ask(rest.data());
+    for (std::size_t i = 0; begin + i < points.size(); ++i) sum += squares[i];
+    return sum;
 }

@@ -1,5 +1,6 @@
 // Ellipses. Oracle for distances: a dense walk along the curve, refined by golden section.
 #include "platform/core/shapes/ellipse.h"
+#include "platform/core/shapes/ellipse_frame.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +9,7 @@
 #include <cstdint>
 #include <limits>
 #include <random>
+#include <vector>
 
 namespace {
 
@@ -216,5 +218,34 @@ TEST(Ellipse, DistanceKnowsNoRotationButThatOfThePoint) {
                                 x * std::sin(turn) + y * std::cos(turn));
         EXPECT_NEAR(upright(5, 3).distToPoint({x, y}),
                     gkEllipse(Geom({100, 0}, {5, 3}, gkRadian(turn))).distToPoint(moved), 200 * kEps);
+    }
+}
+
+// Thin and round ones; points on the curve, near it, in the middle, on the axes and far away.
+TEST(Ellipse, SumsOfSquaresAreThoseOfTheDistances) {
+    std::mt19937_64 random(8);
+    const auto between = [&](double low, double high) {
+        return low + (high - low) * (static_cast<double>(random() >> 11) * 0x1p-53);
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const double big = std::pow(10.0, between(-3.0, 3.0));
+        const double ratio = random() % 4 == 0 ? 1.0 : std::pow(10.0, between(-4.0, 0.0));
+        const gkVector<2> radii =
+            random() % 2 == 0 ? gkVector<2>(big, big * ratio) : gkVector<2>(big * ratio, big);
+        const gkEllipse ellipse({gkPoint(between(-9.0, 9.0), 1.0), radii, gkRadian(between(-4.0, 4.0))});
+        std::vector<gkVector<2>> points;
+        double expected = 0.0;
+        double reach = big;
+        for (std::size_t i = 0; i < 1 + static_cast<std::size_t>(round) % 9; ++i) {
+            const double size = random() % 5 == 0 ? 0.0 : std::pow(10.0, between(-18.0, 2.0)) * big;
+            const gkVector<2> on = ellipse.point(gkRadian(between(-4.0, 4.0))).vector();
+            const gkVector<2> from = random() % 4 == 0 ? ellipse.center().vector() : on;
+            points.push_back(from + gkVector<2>(size, gkRadian(between(-4.0, 4.0))));
+            const double distance = ellipse.distToPoint(points.back());
+            expected += distance * distance;
+            reach = std::max(reach, big + size);
+        }
+        const double sum = gk_EllipseFrame(ellipse.geom()).sumOfSquares(points);
+        ASSERT_NEAR(std::sqrt(expected), std::sqrt(sum), 1e-14 * (reach + 20.0)) << "round " << round;
     }
 }
