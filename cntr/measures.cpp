@@ -80,6 +80,11 @@ template <class Mapped> gkRect boxOf(const std::vector<gkVector<2>>& points, Map
     return gkRect::fromCorners(extremes.low(), extremes.high());
 }
 
+gk_TwoDoubles distances(const gk_TwoVectors& a, const gk_TwoVectors& b) {
+    const gk_TwoVectors offsets = b - a;
+    return offsets.dot(offsets).root();
+}
+
 } // namespace
 
 bool gk_IsIdentity(const gkXform<2>& xform) {
@@ -88,21 +93,29 @@ bool gk_IsIdentity(const gkXform<2>& xform) {
 
 double gk_Length(const std::vector<gkVector<2>>& points, bool closed) {
     double length = 0.0;
-    gk_WalkSegments(points, closed, [&](const gkVector<2>& previous, const gkVector<2>& current) {
-        length += gk_VectorOps::distance(previous, current);
-    });
+    gk_WalkTwoByTwo(points, closed,
+                    [&](const gk_TwoVectors& previous, const gk_TwoVectors& current, bool areTwo) {
+                        const gk_TwoDoubles lengths = distances(previous, current);
+                        length += lengths.first();
+                        if (areTwo) length += lengths.second();
+                    });
     return length;
 }
 
 gkVector<2> gk_MeanPosition(const std::vector<gkVector<2>>& points, bool closed) {
-    gkVector<2> sum;
+    gk_TwoDoubles sum;
     double total = 0.0;
-    gk_WalkSegments(points, closed, [&](const gkVector<2>& previous, const gkVector<2>& current) {
-        const double length = gk_VectorOps::distance(previous, current);
-        total += length;
-        sum += (previous + current) / 2.0 * length;
-    });
-    return sum / total;
+    gk_WalkTwoByTwo(points, closed,
+                    [&](const gk_TwoVectors& previous, const gk_TwoVectors& current, bool areTwo) {
+                        const gk_TwoDoubles lengths = distances(previous, current);
+                        const gk_TwoVectors moments = (previous + current) * gk_TwoDoubles(0.5) * lengths;
+                        total += lengths.first();
+                        sum = sum + gk_TwoDoubles::firsts(moments.x, moments.y);
+                        if (!areTwo) return;
+                        total += lengths.second();
+                        sum = sum + gk_TwoDoubles::seconds(moments.x, moments.y);
+                    });
+    return gk_VectorOf(sum) / total;
 }
 
 void gk_CircleOverFarthestPair(const std::vector<gkVector<2>>& points, gkCircle& circle) {

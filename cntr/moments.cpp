@@ -1,5 +1,6 @@
 #include "cntr/moments.h"
 
+#include "cntr/segment_walk.h"
 #include "platform/core/fit/ellipse_fit.h"
 #include "platform/core/math/real.h"
 #include "platform/core/math/trig.h"
@@ -9,6 +10,7 @@
 
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 
 namespace {
 
@@ -26,11 +28,12 @@ std::vector<gkVector<2>> positions(const std::vector<gkEdgelet>& edgelets) {
 
 double shoelace(const Points& points) {
     double sum = 0.0;
-    gkVector<2> previous = points.at(points.size() - 1);
-    for (const gkVector<2>& current : points) {
-        sum += gk_VectorOps::cross(previous, current);
-        previous = current;
-    }
+    gk_WalkTwoByTwo(points, true,
+                    [&](const gk_TwoVectors& previous, const gk_TwoVectors& current, bool areTwo) {
+                        const gk_TwoDoubles crosses = previous.cross(current);
+                        sum += crosses.first();
+                        if (areTwo) sum += crosses.second();
+                    });
     return std::fabs(sum / 2.0);
 }
 
@@ -72,32 +75,24 @@ struct CentroidSums {
 
 template <bool crossAnywhere> CentroidSums centroidSums(const Points& points) {
     CentroidSums sums;
-    const auto addFirst = [&](const CentroidTerms<crossAnywhere>& terms) {
-        sums.weight += terms.weight.first();
-        sums.moment = sums.moment + gk_TwoDoubles::firsts(terms.moment.x, terms.moment.y);
-    };
-    gk_TwoDoubles previous = gk_TwoOf(points.back());
-    std::size_t i = 0;
-    for (; i + 1 < points.size(); i += 2) {
-        const gk_TwoDoubles middle = gk_TwoOf(points[i]);
-        const gk_TwoDoubles last = gk_TwoOf(points[i + 1]);
-        const CentroidTerms<crossAnywhere> terms(gk_TwoVectors::of(previous, middle),
-                                                 gk_TwoVectors::of(middle, last));
-        addFirst(terms);
-        sums.weight += terms.weight.second();
-        sums.moment = sums.moment + gk_TwoDoubles::seconds(terms.moment.x, terms.moment.y);
-        previous = last;
-    }
-    if (i < points.size()) {
-        const gk_TwoDoubles last = gk_TwoOf(points[i]);
-        addFirst({gk_TwoVectors::of(previous, previous), gk_TwoVectors::of(last, last)});
-    }
+    gk_WalkTwoByTwo(points, true,
+                    [&](const gk_TwoVectors& previous, const gk_TwoVectors& current, bool areTwo) {
+                        const CentroidTerms<crossAnywhere> terms(previous, current);
+                        sums.weight += terms.weight.first();
+                        sums.moment = sums.moment + gk_TwoDoubles::firsts(terms.moment.x, terms.moment.y);
+                        if (!areTwo) return;
+                        sums.weight += terms.weight.second();
+                        sums.moment = sums.moment + gk_TwoDoubles::seconds(terms.moment.x, terms.moment.y);
+                    });
     return sums;
 }
 
 } // namespace
 
-double gf_Area(const std::vector<gkVector<2>>& points) { return shoelace(points); }
+double gf_Area(const std::vector<gkVector<2>>& points) {
+    if (points.empty()) throw std::out_of_range("gf_Area: no points");
+    return shoelace(points);
+}
 
 double gf_Area(const std::vector<gkEdgelet>& edgelets) {
     return edgelets.size() < 3 ? 0.0 : shoelace(positions(edgelets));
