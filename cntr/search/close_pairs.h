@@ -26,35 +26,29 @@ private:
     // Some of a run's segments.
     class Reached {
     public:
-        void addIf(bool isReached, std::size_t segment, const gk_Box& box) {
-            entries_[count_] = {segment, box};
+        void addIf(bool isReached, std::size_t segment) {
+            segments_[count_] = segment;
             count_ += isReached ? 1 : 0;
         }
-        std::size_t count() const { return count_; }
-        std::size_t segment(std::size_t i) const { return entries_[i].segment; }
-        const gk_Box& box(std::size_t i) const { return entries_[i].box; }
+        const std::size_t* begin() const { return segments_.data(); }
+        const std::size_t* end() const { return segments_.data() + count_; }
 
     private:
-        struct Entry {
-            std::size_t segment;
-            gk_Box box;
-        };
         // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
-        std::array<Entry, gk_SegmentTree::kRun + 1> entries_;
+        std::array<std::size_t, gk_SegmentTree::kRun + 1> segments_;
         std::size_t count_ = 0;
     };
 
     template <class Visit> bool anyWithin(std::size_t run, Visit& visit) const {
         const gk_SegmentTree::Range range = tree_.segmentsOf(run);
         if (goesOn(range)) return false;
-        Reached all;
-        for (std::size_t k = range.begin; k < range.end; ++k) all.addIf(true, k, boxOf(k));
-        for (std::size_t i = 0; i < all.count(); ++i) {
-            const gk_Box around = all.box(i).grownBy(margin_);
-            for (std::size_t l = i + 2; l < all.count(); ++l)
-                if (around.overlaps(all.box(l)) && areApart(all.segment(i), all.segment(l)) &&
-                    visit(all.segment(i), all.segment(l)))
-                    return true;
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
+        std::array<gk_Box, gk_SegmentTree::kRun> boxes;
+        for (std::size_t k = range.begin; k < range.end; ++k) boxes[k - range.begin] = boxOf(k);
+        for (std::size_t k = range.begin; k + 2 < range.end; ++k) {
+            const gk_Box around = boxes[k - range.begin].grownBy(margin_);
+            for (std::size_t j = k + 2; j < range.end; ++j)
+                if (around.overlaps(boxes[j - range.begin]) && areApart(k, j) && visit(k, j)) return true;
         }
         return false;
     }
@@ -66,23 +60,23 @@ private:
                Visit& visit) const {
         const gk_Box common = box.grownBy(margin_).common(otherBox.grownBy(margin_));
         const Reached ones = reached(tree_.segmentsOf(run), common);
-        if (ones.count() == 0) return false;
+        if (ones.begin() == ones.end()) return false;
         const Reached others = reached(tree_.segmentsOf(other), common);
-        for (std::size_t i = 0; i < ones.count(); ++i) {
-            const gk_Box around = ones.box(i).grownBy(margin_);
-            for (std::size_t l = 0; l < others.count(); ++l)
-                if (around.overlaps(others.box(l)) && areApart(ones.segment(i), others.segment(l)) &&
-                    visit(ones.segment(i), others.segment(l)))
-                    return true;
+        for (const std::size_t k : ones) {
+            const gk_Box around = boxOf(k).grownBy(margin_);
+            for (const std::size_t j : others)
+                if (areApart(k, j) && around.overlaps(boxOf(j)) && visit(k, j)) return true;
         }
         return false;
     }
 
     Reached reached(gk_SegmentTree::Range range, const gk_Box& common) const {
         Reached found;
+        const gkVector<2>* from = &outline_.first(range.begin);
         for (std::size_t k = range.begin; k < range.end; ++k) {
-            const gk_Box box = boxOf(k);
-            found.addIf(box.overlaps(common), k, box);
+            const gkVector<2>& to = outline_.second(k);
+            found.addIf(gk_Box::of(*from, to).overlaps(common), k);
+            from = &to;
         }
         return found;
     }

@@ -9,10 +9,14 @@
 
 namespace {
 
-bool isModerate(const gkVector<2>& a, const gkVector<2>& b) {
+// Of vertices in a moderate box. False for a NaN.
+bool isModerateStep(const gkVector<2>& a, const gkVector<2>& b) {
     const gkVector<2> along = b - a;
-    return gk_IsModerate(a) && gk_IsModerate(b) &&
-           (gk_VectorOps::dot(along, along) >= kShortestSquare || a == b);
+    return gk_VectorOps::dot(along, along) >= kShortestSquare || a == b;
+}
+
+bool isModerate(const gk_Box& box) {
+    return gk_IsModerate({box.x0, box.y0}) && gk_IsModerate({box.x1, box.y1});
 }
 
 } // namespace
@@ -54,9 +58,15 @@ bool gk_SegmentTree::measureRuns(const gk_Segments& segments, std::vector<gk_Box
     runBoxes.reserve(runCount);
     for (std::size_t run = 0; run < runCount; ++run) {
         const Range range = segmentsOf(run);
-        for (std::size_t k = range.begin; k < range.end; ++k)
-            if (!isModerate(segments.first(k), segments.second(k))) return false;
+        const gkVector<2>* from = &segments.first(range.begin);
+        bool areModerate = true;
+        for (std::size_t k = range.begin; k < range.end; ++k) {
+            const gkVector<2>& to = segments.second(k);
+            areModerate = areModerate && isModerateStep(*from, to);
+            from = &to;
+        }
         runBoxes.push_back(gk_RunBox(segments, range));
+        if (!areModerate || !isModerate(runBoxes.back())) return false;
     }
     return true;
 }

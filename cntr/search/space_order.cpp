@@ -2,26 +2,53 @@
 
 #include <array>
 #include <numeric>
-#include <utility>
 
 namespace {
 
 constexpr double kLastCell = 65535.0;
 
-// Position along the curve. Source: Warren, Hacker's Delight, 2013, ch. 16.
+// Position along the curve, two bits of both coordinates at a time from a table. Source of the curve's rule:
+// Warren, Hacker's Delight, 2013, ch. 16. What it does to the bits behind is to exchange x and y or not and to
+// invert both or not, so there are four states.
+constexpr unsigned kExchanged = 1;
+constexpr unsigned kInverted = 2;
+
+struct Step {
+    std::uint8_t position;
+    std::uint8_t state;
+};
+
+constexpr Step oneBit(unsigned state, unsigned x, unsigned y) {
+    const unsigned inverted = (state & kInverted) != 0 ? 1 : 0;
+    const unsigned right = ((state & kExchanged) != 0 ? y : x) ^ inverted;
+    const unsigned up = ((state & kExchanged) != 0 ? x : y) ^ inverted;
+    unsigned next = state;
+    if (up == 0) next ^= right == 1 ? kExchanged | kInverted : kExchanged;
+    return {static_cast<std::uint8_t>((3 * right) ^ up), static_cast<std::uint8_t>(next)};
+}
+
+constexpr std::array<Step, 64> twoBits() {
+    std::array<Step, 64> steps{};
+    for (unsigned state = 0; state < 4; ++state) {
+        for (unsigned bits = 0; bits < 16; ++bits) {
+            const Step high = oneBit(state, bits >> 3, (bits >> 1) & 1);
+            const Step low = oneBit(high.state, (bits >> 2) & 1, bits & 1);
+            steps[state * 16 + bits] = {static_cast<std::uint8_t>(high.position * 4 + low.position), low.state};
+        }
+    }
+    return steps;
+}
+
+constexpr std::array<Step, 64> kTwoBits = twoBits();
+
 std::uint32_t alongCurve(std::uint32_t x, std::uint32_t y) {
     std::uint32_t position = 0;
-    for (std::uint32_t side = 1u << 15; side > 0; side /= 2) {
-        const std::uint32_t right = (x & side) != 0 ? 1u : 0u;
-        const std::uint32_t up = (y & side) != 0 ? 1u : 0u;
-        position = position * 4 + ((3 * right) ^ up);
-        if (up == 0) {
-            if (right == 1) {
-                x = ~x;
-                y = ~y;
-            }
-            std::swap(x, y);
-        }
+    unsigned state = 0;
+    for (unsigned shift = 16; shift > 0;) {
+        shift -= 2;
+        const Step& step = kTwoBits[state * 16 + ((x >> shift) & 3) * 4 + ((y >> shift) & 3)];
+        position = position * 16 + step.position;
+        state = step.state;
     }
     return position;
 }
