@@ -15,20 +15,32 @@ bool isModerateStep(const gkVector<2>& a, const gkVector<2>& b) {
     return gk_VectorOps::dot(along, along) >= kShortestSquare || a == b;
 }
 
-bool isModerate(const gk_Box& box) {
-    return gk_IsModerate({box.x0, box.y0}) && gk_IsModerate({box.x1, box.y1});
+// Of a run within the bounds of magnitude.h, none for others.
+std::optional<gk_Box> moderateRunBox(const gk_Segments& segments, gk_SegmentTree::Range range) {
+    const gkVector<2>* from = &segments.first(range.begin);
+    bool areModerate = true;
+    for (std::size_t k = range.begin; k < range.end; ++k) {
+        const gkVector<2>& to = segments.second(k);
+        areModerate = areModerate && isModerateStep(*from, to);
+        from = &to;
+    }
+    const gk_Box box = gk_RunBox(segments, range);
+    areModerate = areModerate && gk_IsModerate({box.x0, box.y0}) && gk_IsModerate({box.x1, box.y1});
+    return areModerate ? std::optional<gk_Box>(box) : std::nullopt;
 }
 
 } // namespace
 
 std::optional<gk_Box> gk_OutlineBox(const gk_Segments& outline) {
     if (outline.size() == 0 || outline.size() > UINT32_MAX / 2) return std::nullopt;
-    gk_Box box = gk_Box::of(outline.first(0), outline.first(0));
-    for (std::size_t k = 0; k < outline.size(); ++k) {
-        if (!isModerate(outline.first(k), outline.second(k))) return std::nullopt;
-        box = box.enclosing(gk_Box::of(outline.second(k), outline.second(k)));
+    gk_Box all = gk_Box::of(outline.first(0), outline.first(0));
+    for (std::size_t begin = 0; begin < outline.size(); begin += gk_SegmentTree::kRun) {
+        const std::optional<gk_Box> run =
+            moderateRunBox(outline, {begin, std::min(begin + gk_SegmentTree::kRun, outline.size())});
+        if (!run) return std::nullopt;
+        all = all.enclosing(*run);
     }
-    return box;
+    return all;
 }
 
 std::optional<gk_SegmentTree> gk_SegmentTree::of(const gk_Segments& segments) {
@@ -57,16 +69,9 @@ bool gk_SegmentTree::measureRuns(const gk_Segments& segments, std::vector<gk_Box
     if (runCount > UINT32_MAX) return false;
     runBoxes.reserve(runCount);
     for (std::size_t run = 0; run < runCount; ++run) {
-        const Range range = segmentsOf(run);
-        const gkVector<2>* from = &segments.first(range.begin);
-        bool areModerate = true;
-        for (std::size_t k = range.begin; k < range.end; ++k) {
-            const gkVector<2>& to = segments.second(k);
-            areModerate = areModerate && isModerateStep(*from, to);
-            from = &to;
-        }
-        runBoxes.push_back(gk_RunBox(segments, range));
-        if (!areModerate || !isModerate(runBoxes.back())) return false;
+        const std::optional<gk_Box> box = moderateRunBox(segments, segmentsOf(run));
+        if (!box) return false;
+        runBoxes.push_back(*box);
     }
     return true;
 }
