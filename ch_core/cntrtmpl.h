@@ -24,6 +24,11 @@ template <class Datum> class gkRegionT;
 /// become 0). The transform is the object's own clone, shared by its copies, and changes only by assignment and
 /// loading. Without one (default-constructed, or loaded from a version-0 record) deriving either from a list
 /// that is not empty throws gkBadPointer.
+///
+/// \b Memory: when std::bad_alloc is thrown while one list is derived from the other, or while loading or
+/// assigning, data and points may no longer belong together. Each is a whole list of a former or new value, or
+/// part of one, questions about the points are answered for the points there are, and setting either list mends
+/// it.
 template <class Datum> class gkContourT : public virtual gkContour {
 public:
     using Instantiator = gk_Instantiator;
@@ -84,7 +89,7 @@ private:
 /// Its own hole list is of edgelet regions and apart from gkRegion's: area and the like do not see it. It takes
 /// no part in copies and assignments, which are of the gkContourT and the gkRegion part alone, nor in the
 /// archive, which keeps the gkRegion part: a loaded one has its outline and plain holes, but no data and no
-/// transform.
+/// transform. As to memory, the same holds as for gkContourT.
 template <class Datum> class gkRegionT : public gkContourT<Datum>, public gkRegion {
 public:
     using Instantiator = gk_Instantiator;
@@ -148,6 +153,9 @@ private:
 ///
 /// Setting plain regions through the base makes new edgelet regions without a transform, so that gkBadPointer
 /// is thrown for any outline that is not empty; build the set from edgelet regions instead.
+///
+/// \b Memory: an assignment that throws std::bad_alloc leaves the set as it was or the lists each whole; a
+/// failed load leaves the plain list as gkRegionSet says, and the edgelet list may not follow it.
 template <class Datum> class gkRegionSetT : public gkRegionSet {
 public:
     using Instantiator = gk_Instantiator;

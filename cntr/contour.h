@@ -59,6 +59,10 @@ struct gk_SegmentCache;
 ///
 /// \b Throws: EmptyContour (empty message) where an operation needs 2 vertices and has fewer; nothing is kept
 /// then.
+///
+/// \b Memory: any operation but setting flag, label and bound may throw std::bad_alloc. A question then leaves
+/// the contour as it was, and so do setting vertices, assignment and mapping; loading leaves it as it was or
+/// wholly loaded. Asked again, it answers as if nothing had happened.
 class GKCNTR_API gkContour : public virtual gkPersistent, public virtual gkRepBase {
 public:
     /// Orders the keys of the maps that keep results, exactly and without tolerance.

@@ -31,6 +31,9 @@
 ///
 /// \b Throws: EmptyContour (empty message) below 3 vertices from area, centerOfMass, inertiaMatrix and the
 /// repairs; point queries are the contour's and ask for 2.
+///
+/// \b Memory: as gkContour says. After a failed load the outline is the former or the loaded one, and so are
+/// the holes, each for itself.
 class GKCNTR_API gkRegion : public virtual gkContour {
 public:
     /// A region with this outline, without holes and with label 0; `mode` may replace it by its own repaired

@@ -26,6 +26,10 @@ class gk_SetSearch;
 /// \b Throws: EmptyRegionSet (empty message) where an operation needs a region. What a member region throws
 /// passes through, and nothing is kept then. A null handle among the regions throws gkBadPointer when it is
 /// asked.
+///
+/// \b Memory: where std::bad_alloc is thrown, the list stays as it was (add, regions, assignment, questions),
+/// or as it was or wholly loaded (loading); kept results may be forgotten. Only isSelfIntersecting() keeps the
+/// value reached by then, as after any exception.
 class GKCNTR_API gkRegionSet : public virtual gkPersistent, public virtual gkRepBase {
 public:
     /// The set of these regions, cachedVectorSize 3; `mode` may replace it by its own repaired form.

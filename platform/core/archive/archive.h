@@ -31,9 +31,10 @@ template <int N> class gkVector;
 ///
 /// **Trust.** Reading trusts nothing: any bytes at all either give objects or one of the errors below. Counts
 /// are checked against the bytes that are left before memory is taken. Objects may refer to each other
-/// `depthLimit` deep. After an error the object that was being read may be partly loaded and the archive is of
-/// no further use; objects that the archive made for the failed operation have been told to let go of their
-/// handles (gkRepBase::forgetHandles). Rings of handles that were read without error belong to the user.
+/// `depthLimit` deep. After an error, std::bad_alloc as well, the object that was being read may be partly
+/// loaded and the archive is of no further use; objects that the archive made for the failed operation have
+/// been told to let go of their handles (gkRepBase::forgetHandles). Rings of handles that were read without
+/// error belong to the user.
 ///
 /// One archive, one thread.
 class GKCNTR_API gkArchive {
