@@ -1,4 +1,5 @@
 #include "cntr/contour.h"
+#include "cntr/one_thread.h"
 
 #include "cntr/index.h"
 #include "cntr/region.h"
@@ -90,6 +91,7 @@ gkContour::gkContour(const gkContour& other) : gkPersistent(other), gkRepBase(ot
 }
 
 gkContour& gkContour::operator=(const gkContour& other) {
+    const gk_OneThread here(*this);
     if (this == &other) return *this;
     Value value(other.value_);
     Caches caches(other.caches_);
@@ -106,6 +108,7 @@ void gkContour::points(const std::vector<gkVector<2>>& points) {
 }
 
 void gkContour::setPoints(const std::vector<gkVector<2>>& points) {
+    const gk_OneThread here(*this);
     std::vector<gkVector<2>> copy(points);
     cleanCacheInfo();
     value_.points = std::move(copy);
@@ -114,27 +117,32 @@ void gkContour::setPoints(const std::vector<gkVector<2>>& points) {
 bool gkContour::isClosed() const { return value_.closed; }
 
 void gkContour::isClosed(bool closed) {
+    const gk_OneThread here(*this);
     value_.closed = closed;
     cleanCacheInfo();
 }
 
 void gkContour::label(unsigned long label) {
+    const gk_OneThread here(*this);
     value_.label = fittingLabel(label);
     mutating();
 }
 
 void gkContour::cachedVectorSize(long size) {
+    const gk_OneThread here(*this);
     value_.cachedVectorSize = gk_FittingCachedVectorSize(size);
     mutating();
 }
 
 gkPolygon gkContour::polygon() const {
+    const gk_OneThread here(*this);
     gkPolygon polygon(value_.points, static_cast<gkPolygon::FillMode>(0));
     if (isClosed() && !value_.points.empty()) polygon.append(value_.points.front());
     return polygon;
 }
 
 void gkContour::map(const gkXform<2>& xform, gkContour& out) const {
+    const gk_OneThread here(*this);
     std::vector<gkVector<2>> mapped;
     mapped.reserve(value_.points.size());
     const gk_XformOps ops(xform);
@@ -165,6 +173,7 @@ void gkContour::initializePointers() {
 void gkContour::deletePointers() { initializePointers(); }
 
 void gkContour::cleanCacheInfo() {
+    const gk_OneThread here(*this);
     mutating();
     caches_.mark.noteChange();
     deletePointers();

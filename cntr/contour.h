@@ -42,7 +42,8 @@ struct gk_SegmentCache;
 ///
 /// Results are kept in the object until the geometry changes (points(), isClosed(bool), loading); const queries
 /// fill them. So one contour belongs to one thread at a time, even for reads; distinct contours, also copies
-/// that share a kept hull, are independent.
+/// that share a kept hull, are independent. A library built for debugging calls gstd_assert_ when a shape is
+/// used from two threads at once.
 ///
 /// Segments: a closed contour of n vertices has n, segment k ending at vertex k, segment 0 being the closing
 /// one; an open contour has n - 1, segment k starting at vertex k. Ties go to the lowest index everywhere.

@@ -1,11 +1,13 @@
 #include "cntr/contour.h"
 #include "cntr/crossings.h"
+#include "cntr/one_thread.h"
 #include "cntr/search/outline_search.h"
 
 #include <algorithm>
 
 std::vector<gkVector<2>> gkContour::intersections(const gkLineSeg& seg, std::vector<int>& segIndices,
                                                   bool includeEnds) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     segIndices.clear();
     const gk_CrossingTest query(seg, includeEnds);
@@ -30,6 +32,7 @@ std::vector<gkVector<2>> gkContour::intersections(const gkLineSeg& seg, bool inc
 }
 
 std::vector<gkVector<2>> gkContour::intersections(const gkContour& other) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     const gk_Segments outline(value_.points, isClosed());
     const gk_Segments queries(other.value_.points, other.isClosed());
@@ -48,6 +51,7 @@ std::vector<gkVector<2>> gkContour::intersections(const gkContour& other) const 
 }
 
 bool gkContour::isSelfIntersecting() const {
+    const gk_OneThread here(*this);
     if (value_.points.size() < 2)
         return false; // a lone NaN vertex is unequal to itself and would pass for a segment
     if (caches_.selfIntersecting.valid) return caches_.selfIntersecting.value;

@@ -1,6 +1,7 @@
 // The contour's archive record, both versions, and its drawing.
 #include "cntr/contour.h"
 #include "cntr/legacy_base.h"
+#include "cntr/one_thread.h"
 #include "cntr/segment_walk.h"
 #include "platform/core/archive/archive.h"
 #include "platform/core/object/instantiator.h"
@@ -62,6 +63,7 @@ void gkContour::passValue(gkArchive& archive, Value& value, unsigned char versio
 
 void gkContour::draw(gkUITablet& tablet, gkContourDefs::DrawMode, const gkColor& color,
                      const gkUITablet::Layers& layer) const {
+    const gk_OneThread here(*this);
     gk_WalkSegments(value_.points, isClosed(), [&](const gkVector<2>& from, const gkVector<2>& to) {
         tablet.drawLineSeg(gkPair<double>(from.x(), from.y()), gkPair<double>(to.x(), to.y()), color, layer);
     });

@@ -3,11 +3,13 @@
 #include "cntr/index.h"
 #include "cntr/measures.h"
 #include "cntr/moments.h"
+#include "cntr/one_thread.h"
 #include "cntr/region.h"
 #include "cntr/search/outline_search.h"
 #include "platform/core/shapes/convex_hull.h"
 
 double gkContour::length() const {
+    const gk_OneThread here(*this);
     if (value_.points.empty()) return 0.0;
     if (!caches_.length.valid) {
         caches_.length.value = gk_Length(value_.points, isClosed());
@@ -18,6 +20,7 @@ double gkContour::length() const {
 }
 
 gkVector<2> gkContour::meanPosition() const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     gk_Kept<gkVector<2>>& kept = caches_.rare.made().meanPosition;
     if (!kept.valid) {
@@ -29,6 +32,7 @@ gkVector<2> gkContour::meanPosition() const {
 }
 
 gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
+    const gk_OneThread here(*this);
     if (mode != gkContourDefs::eExact && mode != gkContourDefs::eApproximate) {
         throw gkContourDefs::BadParams(L"diameterMode is not one of the valid enums");
     }
@@ -50,6 +54,7 @@ double gkContour::diameter(gkContourDefs::DiameterMode mode) const {
 }
 
 long gkContour::extremalVertexIndex(const gkRadian& angle) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     ExtremalMap& known = caches_.rare.made().extremalVertices;
     if (const std::int32_t* const kept = known.find(angle)) return *kept;
@@ -67,6 +72,7 @@ gkVector<2> gkContour::extremalVertexPosition(const gkRadian& angle) const {
 }
 
 gkRect gkContour::encloseRect(const gkXform<2>& xform) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     if (const gkRect* const kept = caches_.encloseRects.find(xform)) return *kept;
     const gkRect rect = gk_OutlineSearch::isNeededFor(value_.points)
@@ -92,6 +98,7 @@ void gkContour::noteNewBox(const gkXform<2>& xform) const {
 }
 
 void gkContour::convexHull(gkRegion& out) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     gk_Kept<gkPtrHandle<gkRegion>>& kept = caches_.rare.made().convexHull;
     if (!kept.valid) {
@@ -105,6 +112,7 @@ void gkContour::convexHull(gkRegion& out) const {
 }
 
 void gkContour::fitEllipse(gkEllipse& ellipse, double& error) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     gk_Kept<EllipseFit>& kept = caches_.rare.made().ellipseFit;
     if (!kept.valid) {

@@ -1,6 +1,7 @@
 #include "cntr/contour.h"
 #include "cntr/index.h"
 #include "cntr/measures.h"
+#include "cntr/one_thread.h"
 #include "cntr/region.h"
 #include "cntr/search/outline_search.h"
 #include "cntr/segment_cache.h"
@@ -8,6 +9,7 @@
 gk_OutlineSearch& gkContour::search() const { return caches_.search.made(); }
 
 void gkContour::computeLineSegs() const {
+    const gk_OneThread here(*this);
     gk_SegmentCache& segments = caches_.segments.made();
     if (segments.computed) return;
     segments.build(value_.points, isClosed());
@@ -25,12 +27,14 @@ const std::vector<bool>& gkContour::validLine() const {
 }
 
 gkVector<2> gkContour::closestPoint(const gkVector<2>& p, bool verticesOnly) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     if (verticesOnly) return value_.points[search().nearestVertex(value_.points, isClosed(), p)];
     return search().nearestPoint(gk_Segments(value_.points, isClosed()), p);
 }
 
 long gkContour::closestVertexIndex(const gkVector<2>& p) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     return gk_IndexAs<long>(search().nearestVertex(value_.points, isClosed(), p));
 }
@@ -40,12 +44,14 @@ double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {
 }
 
 std::vector<int> gkContour::vertexIndex(const gkVector<2>& p, double tolerance) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     if (!search().holdsCells(tolerance)) mutating();
     return search().verticesWithin(value_.points, p, tolerance);
 }
 
 double gkContour::medianFeatureSize() const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     gk_Kept<double>& kept = caches_.rare.made().medianFeatureSize;
     if (!kept.valid) {

@@ -1,4 +1,5 @@
 #include "cntr/region.h"
+#include "cntr/one_thread.h"
 
 #include <utility>
 
@@ -34,6 +35,7 @@ void gkRegion::initialize(gkContourDefs::IntersectionMode mode) {
 }
 
 gkRegion& gkRegion::operator=(const gkRegion& other) {
+    const gk_OneThread here(*this);
     if (this == &other) return *this;
     Holes holes(other.holes_);
     Caches caches(other.caches_);
@@ -54,6 +56,7 @@ void gkRegion::checkHole(const gkRegion& hole) const {
 }
 
 void gkRegion::holes(const std::vector<gkPtrHandle_const<gkRegion>>& holes) {
+    const gk_OneThread here(*this);
     Holes accepted(holes);
     cleanCacheInfo();
     makeDataConsistentWithPoints();
@@ -76,6 +79,7 @@ void gkRegion::isClosed(bool closed) {
 }
 
 void gkRegion::map(const gkXform<2>& xform, gkRegion& result) const {
+    const gk_OneThread here(*this);
     std::vector<gkVector<2>> mapped;
     mapped.reserve(points().size());
     for (const gkVector<2>& point : points()) mapped.push_back(xform * point);
@@ -91,6 +95,7 @@ void gkRegion::checkEmptyContour() const {
 }
 
 void gkRegion::cleanCacheInfo() {
+    const gk_OneThread here(*this);
     gkContour::cleanCacheInfo();
     caches_.area = gk_Kept<double>();
     Rare* const rare = caches_.rare.get();

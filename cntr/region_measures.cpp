@@ -1,11 +1,13 @@
 // Area, centroid, moments and point queries of regions, with and without holes.
 #include "cntr/index.h"
 #include "cntr/moments.h"
+#include "cntr/one_thread.h"
 #include "cntr/region.h"
 #include "cntr/search/inside_scan.h"
 #include "cntr/search/outline_search.h"
 
 double gkRegion::area(bool considerHoles) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     if (!caches_.area.valid) {
         caches_.area.value = gf_Area(points());
@@ -25,6 +27,7 @@ double gkRegion::area(bool considerHoles) const {
 }
 
 gkVector<2> gkRegion::centerOfMass(bool considerHoles) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     if (!considerHoles || holes_.empty()) {
         gk_Kept<gkVector<2>>& kept = caches_.rare.made().centerOfMass;
@@ -50,6 +53,7 @@ gkVector<2> gkRegion::centerOfMass(bool considerHoles) const {
 }
 
 gkMatrix<2> gkRegion::inertiaMatrix(bool considerHoles) const {
+    const gk_OneThread here(*this);
     checkEmptyContour();
     if (considerHoles && !holes_.empty()) {
         throw gkContourDefs::BadParams(L"inertiaMatrix(considerHoles) is not implemented");
@@ -83,6 +87,7 @@ long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
 }
 
 bool gkRegion::insideOutline(const gkVector<2>& point) const {
+    const gk_OneThread here(*this);
     gkContour::checkEmptyContour();
     const gk_Segments outline(points(), true);
     const bool isLarge = gk_OutlineSearch::isNeededFor(points());

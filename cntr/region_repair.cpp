@@ -2,6 +2,7 @@
 #include "cntr/boundary_walk.h"
 #include "cntr/loops.h"
 #include "cntr/measures.h"
+#include "cntr/one_thread.h"
 #include "cntr/region.h"
 #include "cntr/splice.h"
 #include "platform/system/assert.h"
@@ -13,6 +14,7 @@ void gkRegion::regularize(gkRegion& result) const { repairOnce(&Rare::regularize
 void gkRegion::outerHull(gkRegion& result) const { repairOnce(&Rare::outerHull, true, result); }
 
 void gkRegion::repairOnce(Repaired Rare::*slot, bool outerHull, gkRegion& result) const {
+    const gk_OneThread here(*this);
     if (!isSelfIntersecting()) {
         result = *this;
         return;

@@ -1,4 +1,5 @@
 #include "cntr/regionst.h"
+#include "cntr/one_thread.h"
 
 #include "cntr/index.h"
 #include "cntr/search/set_search.h"
@@ -40,6 +41,7 @@ gkRegionSet::gkRegionSet(const gkRegionSet& other) : gkPersistent(other), gkRepB
 }
 
 gkRegionSet& gkRegionSet::operator=(const gkRegionSet& other) {
+    const gk_OneThread here(*this);
     if (this == &other) return *this;
     Regions regions(other.regions_);
     Caches caches(other.caches_);
@@ -61,6 +63,7 @@ bool gkRegionSet::operator==(const gkRegionSet& other) const {
 
 void gkRegionSet::regions(const std::vector<gkPtrHandle_const<gkRegion>>& regions,
                           gkContourDefs::IntersectionMode mode) {
+    const gk_OneThread here(*this);
     Regions list(regions);
     cleanCacheInfo();
     regions_ = std::move(list);
@@ -79,6 +82,7 @@ void gkRegionSet::regions(std::initializer_list<gkPtrHandle_const<gkRegion>> reg
 }
 
 void gkRegionSet::add(const gkPtrHandle_const<gkRegion>& region, gkContourDefs::IntersectionMode mode) {
+    const gk_OneThread here(*this);
     cleanCacheInfo();
     regions_.push_back(region);
     makeDataConsistentWithPoints();
@@ -99,6 +103,7 @@ void gkRegionSet::setRegions(const std::vector<gkPtrHandle_const<gkRegion>>& reg
 }
 
 void gkRegionSet::cachedVectorSize(long size) {
+    const gk_OneThread here(*this);
     cachedVectorSize_ = gk_FittingCachedVectorSize(size);
     mutating();
 }
@@ -120,6 +125,7 @@ void gkRegionSet::initializePointers() {
 void gkRegionSet::deletePointers() { initializePointers(); }
 
 void gkRegionSet::cleanCacheInfo() {
+    const gk_OneThread here(*this);
     mutating();
     deletePointers();
     caches_.centerOfMassWithHoles.valid = false;
@@ -134,6 +140,7 @@ void gkRegionSet::cleanCacheInfo() {
 }
 
 void gkRegionSet::draw(gkUITablet& tablet, const gkColor& color, const gkUITablet::Layers& layers) const {
+    const gk_OneThread here(*this);
     for (const auto& region : regions_) region->draw(tablet, color, layers);
 }
 

@@ -1,10 +1,12 @@
 #include "cntr/bounded_map.h"
 #include "cntr/moments.h"
+#include "cntr/one_thread.h"
 #include "cntr/regionst.h"
 #include "cntr/search/set_search.h"
 #include "platform/core/math/real.h"
 
 double gkRegionSet::area(bool considerHoles) const {
+    const gk_OneThread here(*this);
     gk_Kept<double>& kept = considerHoles ? caches_.areaWithHoles : caches_.area;
     if (!kept.valid) {
         double sum = 0.0;
@@ -17,6 +19,7 @@ double gkRegionSet::area(bool considerHoles) const {
 }
 
 gkVector<2> gkRegionSet::centerOfMass(bool considerHoles) const {
+    const gk_OneThread here(*this);
     checkEmptyRegionSet();
     gk_Kept<gkVector<2>>& kept = considerHoles ? caches_.centerOfMassWithHoles : caches_.centerOfMass;
     if (!kept.valid) {
@@ -35,6 +38,7 @@ gkVector<2> gkRegionSet::centerOfMass(bool considerHoles) const {
 }
 
 gkMatrix<2> gkRegionSet::inertiaMatrix(bool considerHoles) const {
+    const gk_OneThread here(*this);
     checkEmptyRegionSet();
     gk_Kept<gkMatrix<2>>& kept = considerHoles ? caches_.inertiaWithHoles : caches_.inertia;
     if (!kept.valid) {
@@ -54,16 +58,19 @@ gkMatrix<2> gkRegionSet::inertiaMatrix(bool considerHoles) const {
 }
 
 bool gkRegionSet::inside(const gkVector<2>& point, bool considerHoles) const {
+    const gk_OneThread here(*this);
     return caches_.search.made().inside(regions_, point, considerHoles);
 }
 
 double gkRegionSet::distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles,
                                 bool zeroInside) const {
+    const gk_OneThread here(*this);
     checkEmptyRegionSet();
     return caches_.search.made().distToPoint(regions_, point, verticesOnly, considerHoles, zeroInside);
 }
 
 gkRect gkRegionSet::encloseRect(const gkXform<2>& xform) const {
+    const gk_OneThread here(*this);
     checkEmptyRegionSet();
     if (const gkRect* const kept = caches_.encloseRects.find(xform)) return *kept;
     gkRect rect = regions_.front()->encloseRect(xform);

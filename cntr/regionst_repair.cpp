@@ -1,8 +1,10 @@
+#include "cntr/one_thread.h"
 #include "cntr/region_merge.h"
 #include "cntr/regionst.h"
 #include "cntr/search/set_search.h"
 
 bool gkRegionSet::isSelfIntersecting() const {
+    const gk_OneThread here(*this);
     if (regions_.empty()) return false;
     gk_Kept<bool>& kept = caches_.selfIntersecting;
     if (kept.valid) return kept.value;
@@ -23,6 +25,7 @@ void gkRegionSet::outerHull(gkRegionSet& result) const { repairOnce(caches_.oute
 
 void gkRegionSet::repairOnce(gk_Kept<gkPtrHandle<gkRegionSet>>& kept, bool outerHull,
                              gkRegionSet& result) const {
+    const gk_OneThread here(*this);
     if (!isSelfIntersecting()) {
         result = *this;
         return;
