@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 
 namespace {
 
@@ -27,8 +28,8 @@ bool canStart(gk_Outline& outline, long i, double probe, gk_RaysMet& metByA, gk_
     const gkVector<2> a = middle + across * probe;
     const gkVector<2> b = middle - across * probe;
     // The probe meets the edge alone, and the edge meets its two neighbours at its ends alone.
-    return outline.crossingCountBeside(i + 1, gkLineSeg(a, b), true) == 1 &&
-           outline.crossingCountBeside(i + 1, gkLineSeg(from, to), true) == 2 &&
+    return outline.hasCrossingsBeside(i + 1, gkLineSeg(a, b), true, 1) &&
+           outline.hasCrossingsBeside(i + 1, gkLineSeg(from, to), true, 2) &&
            (outline.seesOutside(a, metByA) || outline.seesOutside(b, metByB));
 }
 
@@ -51,9 +52,9 @@ WalkState stepped(gk_Outline& outline, const WalkState& state) {
     const gkVector<2>& target = outline[state.forward ? state.position : before];
     const bool isWhole = state.point == outline[state.forward ? before : state.position];
     if (!isWhole || !outline.isUncrossed(state.position)) {
-        const std::vector<gk_Crossing> found =
-            outline.crossingsBeside(state.position, gkLineSeg(state.point, target), false);
-        if (!found.empty()) return {found.front().point, found.front().segment, !state.forward};
+        const std::optional<gk_Crossing> met =
+            outline.firstCrossingBeside(state.position, gkLineSeg(state.point, target), false);
+        if (met) return {met->point, met->segment, !state.forward};
     }
     return {target, gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n), state.forward};
 }

@@ -220,8 +220,8 @@ public:
     /// A point counts when it is nearer than 1e-6 to both segments. The contour's own box comes from
     /// encloseRect of the identity, kept box and all: after encloseRect of a transform that differs from the
     /// identity only in element (1,1), that box is the one used. This is meant. Throws EmptyContour. Cost:
-    /// O(n), then O(log n + segments beside `seg`); and O(k log k) for k crossings, O(k^2) where some are
-    /// equally far along `seg`.
+    /// O(n), then O(log n + segments beside `seg`); and O(k log k) for k crossings, up to O(k^2) where
+    /// some are equally far along `seg`.
     std::vector<gkVector<2>> intersections(const gkLineSeg& seg, bool includeEnds) const;
 
     /// The crossings of every segment of `other` with this contour, concatenated in the order of other's

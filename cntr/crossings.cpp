@@ -1,17 +1,23 @@
 #include "cntr/crossings.h"
 
+#include "cntr/exchange_order.h"
 #include "cntr/index.h"
 #include "cntr/search/close_pairs.h"
+#include "cntr/search/crossing_candidates.h"
 #include "cntr/search/line_side.h"
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
+#include <array>
 
 namespace {
 
-// Below this many crossings the exchanges are made as they are written.
-constexpr std::size_t kFewestToSort = 24;
+// So many crossings are put in order as it is written.
+constexpr std::size_t kFewCrossings = 24;
+// Pairs of close segments, for each segment, from which on it is asked whether many segments are the same;
+// noisy outlines have none or a few.
+constexpr std::size_t kPairsBeforeCandidates = 16;
+// All pairs of so small a share of the segments cost less than those that are close.
+constexpr std::size_t kWorthCandidates = 8;
 
 void append(const gk_Segments& outline, gk_SegmentTree::Range range, const gk_CrossingTest& query,
             std::vector<gk_Crossing>& crossings) {
@@ -20,6 +26,24 @@ void append(const gk_Segments& outline, gk_SegmentTree::Range range, const gk_Cr
         if (query.crosses(outline.first(k), outline.second(k), point))
             crossings.push_back({point, gk_IndexAs<int>(k)});
     }
+}
+
+void addCrossings(const gk_Segments& outline, gk_SegmentTree::Range range, const gk_CrossingTest& query,
+                  std::size_t most, std::size_t& count) {
+    gkVector<2> point;
+    for (std::size_t k = range.begin; k < range.end && count < most; ++k)
+        if (query.crosses(outline.first(k), outline.second(k), point)) ++count;
+}
+
+double placeAlong(const gkLineSeg& seg, const gk_Crossing& crossing) {
+    return gk_VectorOps::dot(crossing.point - seg.p1(), seg.p2() - seg.p1());
+}
+
+std::vector<double> placesAlong(const gkLineSeg& seg, const std::vector<gk_Crossing>& crossings) {
+    std::vector<double> places;
+    places.reserve(crossings.size());
+    for (const gk_Crossing& crossing : crossings) places.push_back(placeAlong(seg, crossing));
+    return places;
 }
 
 bool isModerate(const gkLineSeg& seg) { return gk_IsModerate(seg.p1()) && gk_IsModerate(seg.p2()); }
@@ -34,6 +58,15 @@ bool isCrossed(const gk_Box& keptBox, const gkVector<2>& p1, const gkVector<2>& 
     const gk_CrossingTest query(gkLineSeg(p1, p2), false);
     gkVector<2> point;
     return keptBox.overlaps(query.box()) && gk_IsValidLine(p1, p2) && query.crosses(q1, q2, point);
+}
+
+bool anyTwoCross(const std::vector<gkLineSeg>& segments, const gk_Box& keptBox) {
+    for (const gkLineSeg& a : segments) {
+        if (!keptBox.overlaps(gk_Box::of(a.p1(), a.p2()))) continue;
+        for (const gkLineSeg& b : segments)
+            if (isCrossed(keptBox, a.p1(), a.p2(), b.p1(), b.p2())) return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -58,6 +91,25 @@ std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_Segme
     std::vector<gk_Crossing> crossings;
     for (const std::uint32_t run : runs) append(outline, tree.segmentsOf(run), query, crossings);
     return crossings;
+}
+
+std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_CrossingTest& query, std::size_t most) {
+    std::size_t count = 0;
+    addCrossings(outline, {0, outline.size()}, query, most, count);
+    return count;
+}
+
+std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_SegmentTree& tree,
+                              const gk_CrossingTest& query, std::size_t most) {
+    if (!isModerate(query.segment())) return gk_CountCrossings(outline, query, most);
+    const gk_LineSide side = sideOf(query.segment(), tree);
+    std::size_t count = 0;
+    tree.any([&](const gk_Box& box) { return box.overlaps(query.box()) && !side.rejects(box); },
+             [&](std::uint32_t run) {
+                 addCrossings(outline, tree.segmentsOf(run), query, most, count);
+                 return count == most;
+             });
+    return count;
 }
 
 bool gk_MeetsAny(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_CrossingTest& query,
@@ -96,48 +148,47 @@ bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box) {
     return false;
 }
 
+bool gk_CrossesItselfByCandidates(const gk_Segments& outline, const gk_Box& box) {
+    return anyTwoCross(gk_CrossingCandidates(outline), box);
+}
+
 // Only whether there is a crossing is asked, so the pairs may come in any order, each once, either segment as
 // the query. A neighbour touches an end and never counts; boxes that do not overlap cannot cross.
 bool gk_CrossesItself(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_Box& box) {
-    return gk_ClosePairs(outline, tree, 0.0).any([&](std::size_t k, std::size_t j) {
+    const gk_ClosePairs close(outline, tree, 0.0);
+    const auto areCrossing = [&](std::size_t k, std::size_t j) {
         const gkVector<2>& p1 = outline.first(k);
         const gkVector<2>& p2 = outline.second(k);
         const gkVector<2>& q1 = outline.first(j);
         const gkVector<2>& q2 = outline.second(j);
         if (gk_LineSide(p1, p2, tree.reach()).rejects(q1, q2)) return false;
         return isCrossed(box, p1, p2, q1, q2) || isCrossed(box, q1, q2, p1, p2);
+    };
+    const std::size_t mostPairs = kPairsBeforeCandidates * outline.size();
+    std::size_t pairs = 0;
+    bool found = false;
+    const bool stopped = close.any([&](std::size_t k, std::size_t j) {
+        found = areCrossing(k, j);
+        return found || ++pairs > mostPairs;
     });
+    if (found || !stopped) return found;
+    const std::vector<gkLineSeg> candidates = gk_CrossingCandidates(outline);
+    if (candidates.size() <= outline.size() / kWorthCandidates) return anyTwoCross(candidates, box);
+    return close.any(areCrossing);
+}
+
+const gk_Crossing& gk_FirstAlong(const gkLineSeg& seg, const std::vector<gk_Crossing>& crossings) {
+    return crossings[gk_FirstByExchange(placesAlong(seg, crossings))];
 }
 
 void gk_OrderAlong(const gkLineSeg& seg, std::vector<gk_Crossing>& crossings) {
-    const gkVector<2> direction = seg.p2() - seg.p1();
-    struct Keyed {
-        double key;
-        gk_Crossing crossing;
-    };
-    std::vector<Keyed> keyed;
-    keyed.reserve(crossings.size());
-    for (const gk_Crossing& crossing : crossings)
-        keyed.push_back({gk_VectorOps::dot(crossing.point - seg.p1(), direction), crossing});
-    const auto isBefore = [](const Keyed& a, const Keyed& b) { return a.key < b.key; };
-    // Distinct keys have one order, however it is reached; only equal ones, and NaN, tell how it was.
-    const bool comparable =
-        std::none_of(keyed.begin(), keyed.end(), [](const Keyed& k) { return std::isnan(k.key); });
-    bool oneOrder = false;
-    if (comparable && keyed.size() >= kFewestToSort) {
-        std::vector<Keyed> sorted(keyed);
-        std::stable_sort(sorted.begin(), sorted.end(), isBefore);
-        oneOrder = true;
-        for (std::size_t i = 0; i + 1 < sorted.size() && oneOrder; ++i)
-            oneOrder = sorted[i].key < sorted[i + 1].key;
-        if (oneOrder) keyed = std::move(sorted);
+    if (crossings.size() <= kFewCrossings) {
+        std::array<double, kFewCrossings> places{};
+        for (std::size_t i = 0; i < crossings.size(); ++i) places[i] = placeAlong(seg, crossings[i]);
+        gk_Exchange(places, crossings, crossings.size());
+        return;
     }
-    if (!oneOrder) {
-        for (std::size_t i = 0; i + 1 < keyed.size(); ++i) {
-            for (std::size_t j = i + 1; j < keyed.size(); ++j) {
-                if (keyed[i].key > keyed[j].key) std::swap(keyed[i], keyed[j]);
-            }
-        }
-    }
-    for (std::size_t i = 0; i < keyed.size(); ++i) crossings[i] = keyed[i].crossing;
+    const std::vector<std::size_t> order = gk_ExchangeOrder(placesAlong(seg, crossings));
+    const std::vector<gk_Crossing> found(crossings);
+    for (std::size_t i = 0; i < order.size(); ++i) crossings[i] = found[order[i]];
 }

@@ -20,6 +20,11 @@ std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_Cross
 std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_SegmentTree& tree,
                                       const gk_CrossingTest& query);
 
+// How many there are, but not more than `most`.
+std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_CrossingTest& query, std::size_t most);
+std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_SegmentTree& tree,
+                              const gk_CrossingTest& query, std::size_t most);
+
 // Whether there is a crossing at all. `segment` and its neighbours are tried first; it becomes the one that was
 // met.
 bool gk_MeetsAny(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_CrossingTest& query,
@@ -29,6 +34,11 @@ bool gk_MeetsAny(const gk_Segments& outline, const gk_SegmentTree& tree, const g
 // not overlap `box`, the outline's own as its owner keeps it, are not asked.
 bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box);
 bool gk_CrossesItself(const gk_Segments& outline, const gk_SegmentTree& tree, const gk_Box& box);
+// The same by what is left of the segments when those are left out that cannot matter.
+bool gk_CrossesItselfByCandidates(const gk_Segments& outline, const gk_Box& box);
+
+// The crossing that gk_OrderAlong() would put first, of one or more.
+const gk_Crossing& gk_FirstAlong(const gkLineSeg& seg, const std::vector<gk_Crossing>& crossings);
 
 // Puts crossings in order along `seg` by exchanges. Not a stable sort: which of two crossings with the same key
 // comes first follows from the exchanges made, and callers rely on that order.

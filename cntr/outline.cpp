@@ -26,41 +26,42 @@ double gk_Outline::rayLength() {
     return *rayLength_;
 }
 
-std::vector<gk_Crossing> gk_Outline::crossings(const gkLineSeg& seg, bool includeEnds) {
-    check();
-    const gk_CrossingTest query(seg, includeEnds);
-    if (!gk_Box::of(box()).overlaps(query.box())) return {};
-    std::vector<gk_Crossing> found = search_.crossings(segments(), query);
-    gk_OrderAlong(seg, found);
-    return found;
-}
-
 void gk_Outline::gatherCloseSegments(double margin) {
     check();
     close_ = search_.closeSegments(segments(), margin);
 }
 
-std::vector<gk_Crossing> gk_Outline::unorderedBeside(long segment, const gk_CrossingTest& query) {
-    std::vector<gk_Crossing> found;
-    if (!gk_Box::of(box()).overlaps(query.box())) return found;
+template <class Visit>
+void gk_Outline::visitCrossingsClose(long segment, const gk_CrossingTest& query, Visit visit) const {
     const gk_Segments outline = segments();
-    if (!close_) return search_.crossings(outline, query);
     close_->visitAround(static_cast<std::size_t>(segment), [&](std::size_t k) {
         gkVector<2> point;
         if (query.crosses(outline.first(k), outline.second(k), point))
-            found.push_back({point, gk_IndexAs<int>(k)});
+            visit(gk_Crossing{point, gk_IndexAs<int>(k)});
     });
-    return found;
 }
 
-std::vector<gk_Crossing> gk_Outline::crossingsBeside(long segment, const gkLineSeg& seg, bool includeEnds) {
-    std::vector<gk_Crossing> found = unorderedBeside(segment, gk_CrossingTest(seg, includeEnds));
-    gk_OrderAlong(seg, found);
-    return found;
+std::optional<gk_Crossing> gk_Outline::firstCrossingBeside(long segment, const gkLineSeg& seg,
+                                                           bool includeEnds) {
+    const gk_CrossingTest query(seg, includeEnds);
+    if (!gk_Box::of(box()).overlaps(query.box())) return std::nullopt;
+    std::vector<gk_Crossing> found;
+    if (close_) {
+        visitCrossingsClose(segment, query, [&](const gk_Crossing& crossing) { found.push_back(crossing); });
+    } else {
+        found = search_.crossings(segments(), query);
+    }
+    if (found.empty()) return std::nullopt;
+    return gk_FirstAlong(seg, found);
 }
 
-std::size_t gk_Outline::crossingCountBeside(long segment, const gkLineSeg& seg, bool includeEnds) {
-    return unorderedBeside(segment, gk_CrossingTest(seg, includeEnds)).size();
+bool gk_Outline::hasCrossingsBeside(long segment, const gkLineSeg& seg, bool includeEnds, std::size_t count) {
+    const gk_CrossingTest query(seg, includeEnds);
+    if (!gk_Box::of(box()).overlaps(query.box())) return count == 0;
+    if (!close_) return search_.countCrossings(segments(), query, count + 1) == count;
+    std::size_t found = 0;
+    visitCrossingsClose(segment, query, [&](const gk_Crossing&) { ++found; });
+    return found == count;
 }
 
 std::vector<int> gk_Outline::near(const gkVector<2>& p, double tolerance) {

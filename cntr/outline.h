@@ -34,14 +34,13 @@ public:
     // The vertex at an index that may run up to once past either end.
     const gkVector<2>& wrapped(long index) const { return (*this)[gk_WrapOnce(index, size())]; }
 
-    // The crossings of a segment with the outline, ordered along the segment.
-    std::vector<gk_Crossing> crossings(const gkLineSeg& seg, bool includeEnds);
     // Finds at once what is close to each segment, for many questions about places beside segments: those that
     // name a segment are then quick. Their query must lie within `margin` of that segment's box.
     void gatherCloseSegments(double margin);
-    // As crossings().
-    std::vector<gk_Crossing> crossingsBeside(long segment, const gkLineSeg& seg, bool includeEnds);
-    std::size_t crossingCountBeside(long segment, const gkLineSeg& seg, bool includeEnds);
+    // The first crossing along a segment, if any.
+    std::optional<gk_Crossing> firstCrossingBeside(long segment, const gkLineSeg& seg, bool includeEnds);
+    // Whether there are just so many crossings.
+    bool hasCrossingsBeside(long segment, const gkLineSeg& seg, bool includeEnds, std::size_t count);
     // Whether it is known that the whole segment is crossed by none.
     bool isUncrossed(long segment) const {
         return close_ && close_->hasNone(static_cast<std::size_t>(segment));
@@ -61,7 +60,8 @@ public:
 
 private:
     long insideCount(const gkVector<2>& point, bool bothWays);
-    std::vector<gk_Crossing> unorderedBeside(long segment, const gk_CrossingTest& query);
+    template <class Visit>
+    void visitCrossingsClose(long segment, const gk_CrossingTest& query, Visit visit) const;
     void check() const;
     const gkRect& box();
     double rayLength();

@@ -163,6 +163,13 @@ std::vector<gk_Crossing> gk_OutlineSearch::crossings(const gk_Segments& outline,
     return index == nullptr ? gk_Crossings(outline, query) : gk_Crossings(outline, *index, query);
 }
 
+std::size_t gk_OutlineSearch::countCrossings(const gk_Segments& outline, const gk_CrossingTest& query,
+                                             std::size_t most) {
+    const gk_SegmentTree* const index = tree(outline);
+    return index == nullptr ? gk_CountCrossings(outline, query, most)
+                            : gk_CountCrossings(outline, *index, query, most);
+}
+
 bool gk_OutlineSearch::mayCross(const gk_Segments& outline, const gk_Box& box) {
     const gk_SegmentTree* const index = tree(outline);
     const bool isBox = box.x0 <= box.x1 && box.y0 <= box.y1; // not with a NaN
@@ -172,8 +179,10 @@ bool gk_OutlineSearch::mayCross(const gk_Segments& outline, const gk_Box& box) {
 }
 
 bool gk_OutlineSearch::crossesItself(const gk_Segments& outline, const gk_Box& keptBox) {
+    if (outline.size() < kFewestForTree) return gk_CrossesItself(outline, keptBox);
     const gk_SegmentTree* const index = tree(outline);
-    return index == nullptr ? gk_CrossesItself(outline, keptBox) : gk_CrossesItself(outline, *index, keptBox);
+    return index == nullptr ? gk_CrossesItselfByCandidates(outline, keptBox)
+                            : gk_CrossesItself(outline, *index, keptBox);
 }
 
 std::optional<gk_CloseSegments> gk_OutlineSearch::closeSegments(const gk_Segments& outline, double margin) {

@@ -58,6 +58,8 @@ public:
 
     // In segment order.
     std::vector<gk_Crossing> crossings(const gk_Segments& outline, const gk_CrossingTest& query);
+    // How many crossings() finds, but not more than `most`. Builds the index.
+    std::size_t countCrossings(const gk_Segments& outline, const gk_CrossingTest& query, std::size_t most);
     // Whether crossings() may find something for a segment in the box. Builds the index.
     bool mayCross(const gk_Segments& outline, const gk_Box& box);
     bool crossesItself(const gk_Segments& outline, const gk_Box& keptBox);

@@ -2,10 +2,13 @@
 #include "cntr/crossings.h"
 
 #include "cntr/search/close_segments.h"
+#include "cntr/search/crossing_candidates.h"
 #include "tests/cntr/search/search_shapes.h"
 #include "tests/oracle/crossings.h"
 #include "tests/support/answer.h"
 #include "tests/support/shapes.h"
+
+#include <limits>
 
 namespace {
 
@@ -67,6 +70,62 @@ TEST(CrossingSearch, TreeKnowsWhetherAnOutlineCrossesItself) {
     });
     EXPECT_LT(50, crossing);
     EXPECT_LT(50, simple);
+}
+
+// Outlines without a tree take part.
+TEST(CrossingSearch, CandidatesKnowWhetherAnOutlineCrossesItself) {
+    search::each(6, [&](const Points& points, std::uint64_t) {
+        if (points.size() < 2) return;
+        for (const bool closed : {false, true}) {
+            const gk_Box box = gk_Box::of(oracle::encloseRect(points, gkXform<2>()));
+            ASSERT_EQ(oracle::isSelfIntersecting(points, closed),
+                      gk_CrossesItselfByCandidates(gk_Segments(points, closed), box));
+        }
+    });
+}
+
+// Every two segments are close, so the tree alone would look at all pairs.
+TEST(CrossingSearch, SegmentsOnTopOfEachOtherAreKnownToCrossOrNot) {
+    gen::Random random(5);
+    const auto along = [&](const gkVector<2>& step) {
+        Points points;
+        for (int i = 0; i < 300; ++i) points.push_back(random.unit() * step);
+        return points;
+    };
+    const Points twoPlaces = {{1, 2}, {5, 7}};
+    const Points corners = {{0, 0}, {8, 6}, {8, 0}, {0, 6}}; // round an eight
+    const auto repeatedly = [](const Points& places) {
+        Points points;
+        for (std::size_t i = 0; i < 300; ++i) points.push_back(places[i % places.size()]);
+        return points;
+    };
+    const std::vector<Points> outlines = {repeatedly(twoPlaces), repeatedly({{3, 3}}),
+                                          repeatedly(corners),   along({0, 7}),
+                                          along({3, 1}),         along({1.0 / 3.0, 1.0 / 7.0})};
+    int crossing = 0;
+    for (const Points& points : outlines) {
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        ASSERT_TRUE(tree);
+        const bool expected = oracle::isSelfIntersecting(points, true);
+        crossing += expected ? 1 : 0;
+        const gk_Box box = gk_Box::of(oracle::encloseRect(points, gkXform<2>()));
+        EXPECT_EQ(expected, gk_CrossesItself(outline, *tree, box));
+        EXPECT_EQ(expected, gk_CrossesItselfByCandidates(outline, box));
+    }
+    EXPECT_LE(1, crossing);
+}
+
+TEST(CrossingSearch, CandidatesAreOneOfEachKindAndNoneWhereAllAreParallel) {
+    const auto candidates = [](const Points& points) {
+        return gk_CrossingCandidates(gk_Segments(points, true));
+    };
+    EXPECT_EQ(4U, candidates({{0, 0}, {8, 6}, {8, 0}, {0, 6}, {0, 0}, {8, 6}, {8, 0}, {0, 6}}).size());
+    EXPECT_TRUE(candidates({{1, 1}, {1, 5}, {1, 3}, {1, 9}}).empty());
+    EXPECT_TRUE(candidates({{1, 1}, {1, 1}, {1, 1}}).empty());
+    EXPECT_TRUE(candidates({{-1e308, 0}, {1e308, 1e308}, {5, -1e308}}).empty());
+    const double inf = std::numeric_limits<double>::infinity();
+    EXPECT_EQ(2U, candidates({{0, 0}, {1, 2}, {3, 1}, {inf, 3}}).size());
 }
 
 TEST(CrossingSearch, TreeKnowsWhetherASegmentMeetsAny) {
