@@ -2,27 +2,14 @@
 // indices.
 #include "cntr/contour.h"
 #include "tests/gen/each.h"
-#include "tests/gen/probes.h"
+#include "tests/gen/questions.h"
 #include "tests/oracle/crossings.h"
 #include "tests/support/answer.h"
 #include "tests/support/shapes.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
 namespace {
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInf = std::numeric_limits<double>::infinity();
-
-std::vector<gkLineSeg> segmentsWithBadOnes(const Points& points, std::uint64_t seed) {
-    std::vector<gkLineSeg> list = gen::querySegments(points, seed);
-    list.emplace_back(gkVector<2>(kNan, 0.0), gkVector<2>(1.0, 1.0));
-    list.emplace_back(gkVector<2>(0.0, 0.0), gkVector<2>(kInf, 1.0));
-    list.emplace_back(gkVector<2>(-kInf, -kInf), gkVector<2>(kInf, kInf));
-    return list;
-}
 
 // Points first, then the segment of each.
 Answer asAnswer(const Points& points, const std::vector<int>& indices) {
@@ -59,7 +46,7 @@ TEST(ContourOracleCrossings, WithASegmentAreTheDefinitions) {
     std::size_t crossed = 0;
     gen::eachOutline(80, [&](const Points& points, bool closed, std::uint64_t seed) {
         const OpenedContour contour(points, closed, 0);
-        for (const gkLineSeg& seg : segmentsWithBadOnes(points, seed)) {
+        for (const gkLineSeg& seg : gen::segmentsWithBadOnes(points, seed)) {
             for (const bool includeEnds : {false, true}) {
                 const Answer found = foundCrossings(contour, seg, includeEnds);
                 ASSERT_EQ(expectedCrossings(points, closed, seg, includeEnds), found)

@@ -1,7 +1,7 @@
 // Nearest points, nearest vertices and vertices within a tolerance against their definitions, probe by probe.
 #include "cntr/contour.h"
 #include "tests/gen/each.h"
-#include "tests/gen/probes.h"
+#include "tests/gen/questions.h"
 #include "tests/oracle/closest.h"
 #include "tests/oracle/vertex_cells.h"
 #include "tests/support/answer.h"
@@ -9,34 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
-namespace {
-
-constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-constexpr double kInf = std::numeric_limits<double>::infinity();
-
-// The shape's own probes and some that are no points at all.
-Points probesWithBadOnes(const Points& points, std::uint64_t seed) {
-    Points probes = gen::probes(points, seed);
-    for (const gkVector<2>& p : {gkVector<2>(kNan, 0.0), gkVector<2>(0.0, kInf), gkVector<2>(-kInf, kNan)}) {
-        probes.push_back(p);
-    }
-    return probes;
-}
-
-std::vector<double> tolerancesWithBadOnes(const Points& points) {
-    std::vector<double> list = gen::tolerances(points);
-    for (const double bad : {0.0, -1.0, kInf, kNan}) list.push_back(bad);
-    return list;
-}
-
-} // namespace
-
 TEST(ContourOracleProximity, ClosestPointIsTheDefinitions) {
     gen::eachOutline(80, [](const Points& points, bool closed, std::uint64_t seed) {
         const gkContour contour(points, closed, 0);
-        for (const gkVector<2>& p : probesWithBadOnes(points, seed)) {
+        for (const gkVector<2>& p : gen::probesWithBadOnes(points, seed)) {
             for (const bool verticesOnly : {false, true}) {
                 ASSERT_EQ(answer([&] { return oracle::closestPoint(points, closed, p, verticesOnly); }),
                           answer([&] { return contour.closestPoint(p, verticesOnly); }))
@@ -49,7 +25,7 @@ TEST(ContourOracleProximity, ClosestPointIsTheDefinitions) {
 TEST(ContourOracleProximity, DistanceIsTheDefinitions) {
     gen::eachOutline(80, [](const Points& points, bool closed, std::uint64_t seed) {
         const gkContour contour(points, closed, 0);
-        for (const gkVector<2>& p : probesWithBadOnes(points, seed)) {
+        for (const gkVector<2>& p : gen::probesWithBadOnes(points, seed)) {
             for (const bool verticesOnly : {false, true}) {
                 ASSERT_EQ(answer([&] { return oracle::distToPoint(points, closed, p, verticesOnly); }),
                           answer([&] { return contour.distToPoint(p, verticesOnly); }))
@@ -62,7 +38,7 @@ TEST(ContourOracleProximity, DistanceIsTheDefinitions) {
 TEST(ContourOracleProximity, ClosestVertexIsTheDefinitions) {
     gen::eachShape(80, [](const Points& points, std::uint64_t seed) {
         const gkContour contour(points, false, 0);
-        for (const gkVector<2>& p : probesWithBadOnes(points, seed)) {
+        for (const gkVector<2>& p : gen::probesWithBadOnes(points, seed)) {
             ASSERT_EQ(answer([&] { return oracle::closestVertexIndex(points, p); }),
                       answer([&] { return contour.closestVertexIndex(p); }))
                 << p;
@@ -74,8 +50,8 @@ TEST(ContourOracleProximity, ClosestVertexIsTheDefinitions) {
 TEST(ContourOracleProximity, VerticesWithinATolerancesAreTheDefinitionsInItsOrder) {
     gen::eachShape(40, [](const Points& points, std::uint64_t seed) {
         const gkContour contour(points, true, 0);
-        for (const gkVector<2>& p : probesWithBadOnes(points, seed)) {
-            for (const double tolerance : tolerancesWithBadOnes(points)) {
+        for (const gkVector<2>& p : gen::probesWithBadOnes(points, seed)) {
+            for (const double tolerance : gen::tolerancesWithBadOnes(points)) {
                 ASSERT_EQ(answer([&] { return oracle::vertexIndex(points, p, tolerance); }),
                           answer([&] { return contour.vertexIndex(p, tolerance); }))
                     << p << " within " << tolerance;

@@ -2,6 +2,7 @@
 #include "cntr/region.h"
 #include "platform/core/fit/ellipse_fit.h"
 #include "tests/gen/each.h"
+#include "tests/gen/questions.h"
 #include "tests/oracle/circle.h"
 #include "tests/oracle/enclose.h"
 #include "tests/oracle/extremal.h"
@@ -16,30 +17,6 @@
 #include <limits>
 
 namespace {
-
-// The quarter turns, angles that only nearly are ones, and angles between them.
-std::vector<double> angles(std::uint64_t seed) {
-    const double quarter = 1.5707963267948966;
-    std::vector<double> list = {0.0, 7e-16, 2e-15, std::numeric_limits<double>::quiet_NaN()};
-    for (int i = -4; i <= 4; ++i) list.push_back(quarter * i);
-    gen::Random random(seed);
-    for (int i = 0; i < 8; ++i) list.push_back(random.between(-20.0, 20.0));
-    return list;
-}
-
-// The identity, transforms within and just outside 1e-15 of it, rotations, mirrors and singular ones.
-std::vector<gkXform<2>> xforms(std::uint64_t seed) {
-    gen::Random random(seed);
-    const auto any = [&] { return random.between(-3.0, 3.0); };
-    const gkRadian turn(any());
-    return {gkXform<2>(),
-            gkXform<2>(gkMatrix<2>(1.0 + 8e-16, 0.0, 0.0, 1.0), {1e-15, 0.0}),
-            gkXform<2>(gkMatrix<2>(1.0 + 2e-15, 0.0, 0.0, 1.0), {0.0, 0.0}),
-            gkXform<2>(gkMatrix<2>(turn, turn, 1.0, 1.0), {any(), any()}),
-            gkXform<2>(gkMatrix<2>(-1.0, 0.0, 0.0, 1.0), {any(), 0.0}),
-            gkXform<2>(gkMatrix<2>(any(), any(), any(), any()), {any(), any()}),
-            gkXform<2>(gkMatrix<2>(1.0, 2.0, 2.0, 4.0), {0.0, 0.0})};
-}
 
 gkRegion hullOf(const gkContour& contour) {
     gkRegion hull;
@@ -105,7 +82,7 @@ TEST(ContourOracle, ExactCircleOfANewOutlineStartsFromTheSlotOfTheOld) {
 TEST(ContourOracle, ExtremalVerticesAreTheDefinitionsInEveryDirection) {
     gen::eachShape(200, [](const Points& points, std::uint64_t seed) {
         const gkContour contour(points, true, 0);
-        for (const double angle : angles(seed)) {
+        for (const double angle : gen::angles(seed)) {
             SCOPED_TRACE(angle);
             const gkRadian direction(angle);
             expectTwice(answer([&] { return oracle::extremalVertexIndex(points, direction); }),
@@ -119,7 +96,7 @@ TEST(ContourOracle, ExtremalVerticesAreTheDefinitionsInEveryDirection) {
 TEST(ContourOracle, BoxesAreTheDefinitionsUnderEveryTransform) {
     gen::eachShape(200, [](const Points& points, std::uint64_t seed) {
         const gkContour contour(points, true, 0);
-        for (const gkXform<2>& xform : xforms(seed)) {
+        for (const gkXform<2>& xform : gen::xforms(seed)) {
             expectTwice(answer([&] { return oracle::encloseRect(points, xform); }),
                         [&] { return contour.encloseRect(xform); });
         }

@@ -16,8 +16,7 @@ struct Shape {
     Points points;
 };
 
-// Some hundreds of vertices each: a noisy star, a comb, a spiral, a curve through itself, a walk on a lattice,
-// a round shape with all vertices on the hull, a crowd of vertices with one far away, repeated and tiny steps.
+// Some hundreds of vertices each, of every large kind.
 std::vector<Shape> largeShapes(std::uint64_t seed);
 
 // Calls check(points, seed) for every kind of generator and every large shape.
