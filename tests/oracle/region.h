@@ -6,6 +6,7 @@
 #include "tests/oracle/circle.h"
 #include "tests/oracle/closest.h"
 #include "tests/oracle/crossings.h"
+#include "tests/oracle/inertia.h"
 
 #include <algorithm>
 
@@ -79,6 +80,14 @@ inline gkVector<2> centroid(const Region& region, bool considerHoles) {
         remaining = remaining - area(hole.outline);
     }
     return moment / remaining;
+}
+
+// With holes there are no second moments.
+inline gkMatrix<2> inertiaMatrix(const Region& region, bool considerHoles) {
+    needsThree(region.outline);
+    if (considerHoles && !region.holes.empty()) throw Refusal{"BadParams"};
+    const Inertia m = polygonInertia(region.outline);
+    return gkMatrix<2>(m.xx, m.xy, m.xy, m.yy);
 }
 
 inline long closestVertexIndex(const Region& region, const gkVector<2>& p, bool considerHoles,
