@@ -2,6 +2,17 @@
 
 namespace comparisons {
 
+// Some lie so near a vertex that a ray between two others may touch it.
+gkVector<2> Questions::point() {
+    if (!points_.empty() && random_.chance(0.2)) {
+        const double distances[] = {1e-7, 1e-6, 3e-6, 1e-5, 1e-4, 1e-3, 1e-2};
+        const double distance = distances[random_.index(std::size(distances))];
+        const gkRadian angle(random_.between(0.0, 6.3));
+        return points_[random_.index(points_.size())] + gkVector<2>(distance, angle);
+    }
+    return oneOf(probes_, [&] { return gen::probesWithBadOnes(points_, seed_); });
+}
+
 double Questions::tolerance(const gkVector<2>& p) {
     if (!points_.empty() && random_.chance(0.25)) {
         const double distance = p.distance(points_[random_.index(points_.size())]);

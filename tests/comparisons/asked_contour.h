@@ -16,9 +16,7 @@ public:
 
     gen::Random& random() { return random_; }
     bool flag() { return random_.chance(0.5); }
-    gkVector<2> point() {
-        return oneOf(probes_, [&] { return gen::probesWithBadOnes(points_, seed_); });
-    }
+    gkVector<2> point();
     gkLineSeg segment() {
         return oneOf(segments_, [&] { return gen::segmentsWithBadOnes(points_, seed_); });
     }

@@ -1,6 +1,7 @@
 // Repair of outlines that cross themselves, and the splice of two that cross each other.
 #include "tests/comparisons/operations.h"
 #include "tests/comparisons/outlines.h"
+#include "tests/gen/places.h"
 #include "tests/gen/tangles.h"
 #include "tests/oracle/repair.h"
 #include "tests/support/repair_access.h"
@@ -8,13 +9,29 @@
 namespace comparisons {
 namespace {
 
+// Every edge in up to four pieces that meet almost on it, so that there are enough segments for an index.
+Points inPieces(const Points& points, gen::Random& random) {
+    Points list;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const gkVector<2>& from = points[i];
+        const gkVector<2> along = points[(i + 1) % points.size()] - from;
+        const int pieces = random.integer(1, 4);
+        list.push_back(from);
+        for (int k = 1; k < pieces; ++k)
+            list.push_back(from + along * (k / static_cast<double>(pieces)) + gen::place(random, 2e-6));
+    }
+    return list;
+}
+
 // The plain walk asks for every crossing at every step, so these are small; some are of any kind, and some of
 // those large enough for an index.
 Outline tangleOf(std::uint64_t seed) {
     gen::Random random(seed);
     if (random.chance(0.125)) return outlineOf(random.next(), kSmall);
     const gen::Kind& kind = gen::tangles()[random.index(gen::tangles().size())];
-    return {kind.name, seed, kind.make(random), true};
+    Outline outline{kind.name, seed, kind.make(random), true};
+    if (outline.points.size() < 40 && random.chance(0.25)) outline.points = inPieces(outline.points, random);
+    return outline;
 }
 
 template <class Define, class Repair>

@@ -30,13 +30,18 @@ Points member(gen::Random& random, double reach) {
     return points;
 }
 
-// Members side by side or in each other's way, as many as make an index worth while, one less, one more.
+// As many members as make an index worth while, one less, one more; mostly a few. They lie in each other's way
+// and some cross themselves, or they are squares so far apart that seldom more than two meet.
 std::vector<Points> scattered(gen::Random& random) {
     const int many[] = {31, 32, 33, 70};
     const int count = random.chance(0.05) ? many[random.index(std::size(many))] : random.integer(1, 8);
-    const double reach = random.chance(0.5) ? 20.0 : 200.0;
+    const bool sparse = random.chance(0.5);
+    const double reach = sparse ? 8.0 * count : 20.0;
     std::vector<Points> members;
-    for (int i = 0; i < count; ++i) members.push_back(member(random, reach));
+    for (int i = 0; i < count; ++i) {
+        const gkVector<2> at = gen::place(random, reach);
+        members.push_back(sparse ? square(at.x(), at.y(), random.between(1.0, 12.0)) : member(random, reach));
+    }
     return members;
 }
 
