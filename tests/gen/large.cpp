@@ -1,5 +1,7 @@
 #include "tests/gen/large.h"
 
+#include "tests/gen/places.h"
+
 // Some kinds are also names of small outlines.
 namespace large {
 namespace {
@@ -12,7 +14,7 @@ constexpr double kTurn = 6.283185307179586;
 gkVector<2> polar(double length, double angle) { return gkVector<2>(length, gkRadian(angle)); }
 
 Points star(Random& random, int count) {
-    const gkVector<2> center(random.between(-500.0, 500.0), random.between(-500.0, 500.0));
+    const gkVector<2> center = gen::place(random, 500.0);
     Points points;
     for (int i = 0; i < count; ++i) points.push_back(center + polar(100.0 + random.unit(), kTurn * i / count));
     return points;
@@ -45,8 +47,8 @@ Points lissajous(Random& random, int count) {
     Points points;
     for (int i = 0; i < count; ++i) {
         const double t = kTurn * i / count;
-        points.emplace_back(90.0 * polar(1.0, across * t).y() + 0.01 * random.unit(),
-                            70.0 * polar(1.0, (across + 1) * t).x() + 0.01 * random.unit());
+        const gkVector<2> place(90.0 * polar(1.0, across * t).y(), 70.0 * polar(1.0, (across + 1) * t).x());
+        points.push_back(place + gen::placeBetween(random, {0.0, 0.0}, {0.01, 0.01}));
     }
     return points;
 }
@@ -70,7 +72,7 @@ Points round(Random& random, int count) {
 
 Points crowd(Random& random, int count) {
     Points points;
-    for (int i = 0; i < count; ++i) points.emplace_back(random.unit(), random.unit());
+    for (int i = 0; i < count; ++i) points.push_back(gen::placeBetween(random, {0.0, 0.0}, {1.0, 1.0}));
     points.emplace_back(1e5, -1e5);
     return points;
 }
@@ -78,8 +80,10 @@ Points crowd(Random& random, int count) {
 Points halting(Random& random, int count) {
     const double steps[] = {0.0, 1e-16, 1e-9, 1e-6, 0.5};
     Points points = {{random.between(-9.0, 9.0), 0.0}};
-    while (static_cast<int>(points.size()) < count)
-        points.push_back(points.back() + polar(steps[random.index(5)], random.between(0.0, kTurn)));
+    while (static_cast<int>(points.size()) < count) {
+        const double angle = random.between(0.0, kTurn);
+        points.push_back(points.back() + polar(steps[random.index(5)], angle));
+    }
     return points;
 }
 

@@ -1,5 +1,7 @@
 #include "tests/gen/questions.h"
 
+#include "tests/gen/places.h"
+
 #include <limits>
 
 namespace gen {
@@ -21,14 +23,15 @@ std::vector<double> angles(std::uint64_t seed) {
 
 std::vector<gkXform<2>> xforms(std::uint64_t seed) {
     Random random(seed);
-    const auto any = [&] { return random.between(-3.0, 3.0); };
-    const gkRadian turn(any());
+    const gkRadian turn(random.between(-3.0, 3.0));
+    const gkVector<2> shift = place(random, 3.0);
+    const gkVector<2> rows[] = {place(random, 3.0), place(random, 3.0)};
     return {gkXform<2>(),
             gkXform<2>(gkMatrix<2>(1.0 + 8e-16, 0.0, 0.0, 1.0), {1e-15, 0.0}),
             gkXform<2>(gkMatrix<2>(1.0 + 2e-15, 0.0, 0.0, 1.0), {0.0, 0.0}),
-            gkXform<2>(gkMatrix<2>(turn, turn, 1.0, 1.0), {any(), any()}),
-            gkXform<2>(gkMatrix<2>(-1.0, 0.0, 0.0, 1.0), {any(), 0.0}),
-            gkXform<2>(gkMatrix<2>(any(), any(), any(), any()), {any(), any()}),
+            gkXform<2>(gkMatrix<2>(turn, turn, 1.0, 1.0), shift),
+            gkXform<2>(gkMatrix<2>(-1.0, 0.0, 0.0, 1.0), {shift.y(), 0.0}),
+            gkXform<2>(gkMatrix<2>(rows[0].x(), rows[0].y(), rows[1].x(), rows[1].y()), shift),
             gkXform<2>(gkMatrix<2>(1.0, 2.0, 2.0, 4.0), {0.0, 0.0})};
 }
 
