@@ -30,11 +30,12 @@ template <int N> class gkVector;
 /// and both need a whole record.
 ///
 /// **Trust.** Reading trusts nothing: any bytes at all either give objects or one of the errors below. Counts
-/// are checked against the bytes that are left before memory is taken. Objects may refer to each other
-/// `depthLimit` deep. After an error, std::bad_alloc as well, the object that was being read may be partly
-/// loaded and the archive is of no further use; objects that the archive made for the failed operation have
-/// been told to let go of their handles (gkRepBase::forgetHandles). Rings of handles that were read without
-/// error belong to the user.
+/// are checked against the bytes that are left before memory is taken, and no two vectors take memory for the
+/// same bytes; so reading takes at most 16 bytes of memory for each byte of the archive. Objects may refer to
+/// each other `depthLimit` deep. After an error, std::bad_alloc as well, the object that was being read may be
+/// partly loaded and the archive is of no further use; objects that the archive made for the failed operation
+/// have been told to let go of their handles (gkRepBase::forgetHandles). Rings of handles that were read
+/// without error belong to the user.
 ///
 /// One archive, one thread.
 class GKCNTR_API gkArchive {
@@ -144,6 +145,7 @@ protected:
 
 private:
     friend class gk_ArchiveOperation;
+    friend class gk_ArchiveElements;
 
     void putNumber(std::uint64_t value, int bytes);
     std::uint64_t getNumber(int bytes);
@@ -159,6 +161,7 @@ private:
     bool failed_ = false;
     int operations_ = 0;
     std::size_t firstOfOperation_ = 0;
+    std::size_t bytesKept_ = 0;
     std::unique_ptr<gk_ArchiveReferences> references_;
 };
 
@@ -175,6 +178,42 @@ public:
 private:
     gkArchive& archive_;
     bool completed_ = false;
+};
+
+/// The elements of a vector while it is being read. The bytes that those to come take at least are kept for
+/// them, so that vectors within an element do not take memory for the same bytes once more, on every level of
+/// nesting.
+class gk_ArchiveElements {
+public:
+    /// What gkArchive::vectorHeader was asked and has answered.
+    gk_ArchiveElements(gkArchive& archive, std::size_t count, std::size_t leastBytes)
+        : archive_(archive), held_(count), leastBytes_(leastBytes) {
+        if (archive.isSaving()) return;
+        const std::size_t left = archive.bytesLeft();
+        const std::size_t free = left > archive.bytesKept_ ? left - archive.bytesKept_ : 0;
+        if (held_ > free / leastBytes) held_ = free / leastBytes;
+        kept_ = count * leastBytes;
+        archive.bytesKept_ += kept_;
+    }
+    ~gk_ArchiveElements() { archive_.bytesKept_ -= kept_; }
+    gk_ArchiveElements(const gk_ArchiveElements&) = delete;
+    gk_ArchiveElements& operator=(const gk_ArchiveElements&) = delete;
+
+    /// How many there is memory for. When these are not all, a vector around will find too few bytes: then the
+    /// others are read, for the error that comes first, but not held.
+    std::size_t held() const { return held_; }
+    /// The next element is about to pass: its bytes are its own now.
+    void next() {
+        if (kept_ == 0) return;
+        kept_ -= leastBytes_;
+        archive_.bytesKept_ -= leastBytes_;
+    }
+
+private:
+    gkArchive& archive_;
+    std::size_t held_;
+    std::size_t leastBytes_;
+    std::size_t kept_ = 0;
 };
 
 /// One byte.

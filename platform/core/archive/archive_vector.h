@@ -42,15 +42,24 @@ template <class T> gkArchive& operator||(gkArchive& ar, std::vector<T>& values) 
         "objects by handle");
     gk_ArchiveOperation operation(ar);
     const std::size_t count = ar.vectorHeader(values.size(), gk_ArchiveSize<T>::least);
-    if (ar.isLoading()) {
-        values.clear();
-        values.resize(count);
-    }
     if constexpr (std::is_same_v<T, gkVector<2>>) {
+        if (ar.isLoading()) {
+            values.clear();
+            values.resize(count);
+        }
         ar.vectors(values.data(), count);
     } else {
+        gk_ArchiveElements elements(ar, count, gk_ArchiveSize<T>::least);
+        if (ar.isLoading()) {
+            values.clear();
+            values.resize(elements.held());
+        }
         for (std::size_t i = 0; i < count; ++i) {
-            if constexpr (std::is_same_v<T, bool>) {
+            elements.next();
+            if (i >= elements.held()) {
+                T rest = T();
+                ar || rest;
+            } else if constexpr (std::is_same_v<T, bool>) {
                 bool value = values[i];
                 ar || value;
                 values[i] = value;
