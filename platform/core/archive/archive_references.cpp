@@ -7,14 +7,20 @@
 
 gk_ArchiveReferences::Passing::Passing(gk_ArchiveReferences& references, std::uint32_t number,
                                        const gkPersistent& object)
-    : references_(references), number_(number), mark_(references.marks_[&object]), former_(mark_) {
+    : references_(references), number_(number), object_(object) {
     references_.passing_.push_back(number_);
+    const auto mark = references_.marks_.find(&object_);
+    if (mark != references_.marks_.end()) former_ = std::exchange(mark->second, false);
     references_.at(number_).passing = true;
-    mark_ = false;
 }
 
 gk_ArchiveReferences::Passing::~Passing() {
-    mark_ = former_;
+    // An object has a mark for good only when it has passed in place; most never do.
+    const auto mark = references_.marks_.find(&object_);
+    if (mark != references_.marks_.end()) {
+        mark->second = former_;
+        if (!former_) references_.marks_.erase(mark);
+    }
     references_.at(number_).passing = false;
     references_.passing_.pop_back();
     references_.raiseHolder(references_.at(number_).height);

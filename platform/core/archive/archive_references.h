@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -34,8 +35,8 @@ public:
     private:
         gk_ArchiveReferences& references_;
         std::uint32_t number_;
-        bool& mark_;
-        bool former_;
+        const gkPersistent& object_;
+        bool former_ = false;
     };
 
     bool isVisited(const gkPersistent& object) const;
@@ -79,7 +80,7 @@ private:
     Entry& at(std::uint32_t number) { return entries_[number - 1]; }
     void raiseHolder(int height);
 
-    std::vector<Entry> entries_; // number 1 first
+    std::deque<Entry> entries_; // number 1 first; grows without a second copy of itself
     std::vector<std::uint32_t> passing_;
     std::unordered_map<const gkPersistent*, std::uint32_t> numbers_;
     std::unordered_map<const gkPersistent*, bool> marks_;
