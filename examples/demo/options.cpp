@@ -1,7 +1,7 @@
 #include "examples/demo/options.h"
 
 #include "examples/demo/failure.h"
-#include "examples/demo/picture.h"
+#include "examples/demo/picture_name.h"
 
 #include <algorithm>
 #include <charconv>

@@ -132,8 +132,3 @@ void savePicture(const std::filesystem::path& file, const Scene& scene, double w
         file.extension() == ".pdf" ? painter.tablet().savePdf(file) : painter.tablet().savePng(file);
     }
 }
-
-bool isPictureName(const std::filesystem::path& file) {
-    const std::filesystem::path suffix = file.extension();
-    return suffix == ".png" || suffix == ".svg" || suffix == ".pdf";
-}

@@ -23,11 +23,8 @@ struct Scene {
     const Scale& scale;
 };
 
-// Writes the picture as PNG, SVG or PDF, as the file's name says; `wantedSide` is the length the longer side
-// should come to, see Page. Throws gkUITablet::CannotWrite.
+// Writes the picture as PNG, SVG or PDF, as the file's name says (isPictureName); `wantedSide` is the length
+// the longer side should come to, see Page. Throws gkUITablet::CannotWrite.
 void savePicture(const std::filesystem::path& file, const Scene& scene, double wantedSide);
-
-// True for names that say so.
-bool isPictureName(const std::filesystem::path& file);
 
 #endif
