@@ -1,0 +1,5 @@
+#include "tests/fuzz/target.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    return fuzz::archive("edgelet_set", data, size);
+}

@@ -1,0 +1,42 @@
+#include "cntr/regionst.h"
+#include "tests/fuzz/repair_laws.h"
+#include "tests/fuzz/target.h"
+#include "tests/oracle/repair.h"
+#include "tests/support/answer.h"
+
+namespace {
+
+using Set = std::vector<fuzz::Points>;
+
+gkRegionSet setOf(const Set& outlines) {
+    std::vector<gkPtrHandle_const<gkRegion>> regions;
+    for (const fuzz::Points& points : outlines) regions.emplace_back(new gkRegion(points));
+    return gkRegionSet(regions);
+}
+
+Answer repaired(const gkRegionSet& set, bool outerHull) {
+    return answer([&] {
+        gkRegionSet result;
+        outerHull ? set.outerHull(result) : set.regularize(result);
+        fuzz::demand(result.regions().size() <= set.regions().size(), "merging makes no regions");
+        Set all;
+        for (const auto& region : result.regions()) all.push_back(region->points());
+        return all;
+    });
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const Set outlines = fuzz::outlinesFrom(data, size);
+    const gkRegionSet set = setOf(outlines);
+    fuzz::demandEqual(answer([&] { return oracle::isSelfIntersecting(outlines); }),
+                      answer([&] { return set.isSelfIntersecting(); }), "isSelfIntersecting");
+    for (const bool outerHull : {false, true}) {
+        const Answer plain =
+            answer([&] { return outerHull ? oracle::outerHull(outlines) : oracle::regularize(outlines); });
+        fuzz::demandEqual(plain, repaired(set, outerHull), "the repaired set");
+        fuzz::demandEqual(plain, repaired(set, outerHull), "the repaired set, asked again");
+    }
+    return 0;
+}
