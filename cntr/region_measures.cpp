@@ -6,6 +6,8 @@
 #include "cntr/search/inside_scan.h"
 #include "cntr/search/outline_search.h"
 
+#include <map>
+
 double gkRegion::area(bool considerHoles) const {
     const gk_OneThread here(*this);
     checkEmptyContour();
@@ -67,10 +69,14 @@ gkMatrix<2> gkRegion::inertiaMatrix(bool considerHoles) const {
     return kept.value;
 }
 
-// The regions whose holes are being asked, innermost first.
+// The regions whose holes are being asked, innermost first, and what those with holes have answered: one that
+// is shared as a hole on several levels would be asked twice as often on each.
 struct gkRegion::Chain {
+    using Answers = std::map<const gkRegion*, bool>;
+
     const gkRegion* region;
     const Chain* outer;
+    Answers& answers;
 
     bool holds(const gkRegion* asked) const {
         for (const Chain* link = this; link; link = link->outer) {
@@ -113,11 +119,17 @@ bool gkRegion::insideChained(const gkVector<2>& point, bool considerHoles, const
     if (!within || !considerHoles) return within;
     // Shared holes can form a ring; following it would never end.
     if (outer && outer->holds(this)) throw gkContourDefs::BadParams(L"a region is a hole within its own holes");
-    const Chain chain{this, outer};
-    for (const auto& hole : holes_) {
-        if (hole->insideChained(point, true, &chain)) return false;
-    }
-    return true;
+    if (holes_.empty()) return true;
+    Chain::Answers first;
+    Chain::Answers& answers = outer ? outer->answers : first;
+    const auto known = answers.find(this);
+    if (known != answers.end()) return known->second;
+    const Chain chain{this, outer, answers};
+    bool isInside = true;
+    for (std::size_t i = 0; isInside && i < holes_.size(); ++i)
+        isInside = !holes_[i]->insideChained(point, true, &chain);
+    if (outer) answers.emplace(this, isInside);
+    return isInside;
 }
 
 long gkRegion::closestVertexIndex(const gkVector<2>& point) const {

@@ -194,6 +194,17 @@ TEST(RegionInside, AsksAHoleOfTooFewVerticesAndPassesItsErrorOn) {
     EXPECT_FALSE(region.inside({11, 1}, true)) << "outside no hole is asked";
 }
 
+// Were each hole asked as often as it is met, this would not end.
+TEST(RegionInside, AsksAHoleThatIsSharedOnEveryLevelOnce) {
+    std::vector<Shared> nested = {sharedSquare(0, 0, 1)};
+    for (int level = 1; level < 150; ++level) {
+        nested.push_back(sharedSquare(-level, -level, 1 + 2 * level));
+        nested.back()->holes({nested[nested.size() - 2], nested[nested.size() - 2]});
+    }
+    for (std::size_t level = 0; level < nested.size(); ++level)
+        EXPECT_EQ(level % 2 == 0, nested[level]->inside({0.5, 0.5}, true));
+}
+
 TEST_F(RegionRing, OfHolesEndsInAnError) {
     for (const Shared& region : {outer, inner}) {
         try {
