@@ -29,14 +29,16 @@ Answer repaired(const gkRegionSet& set, bool outerHull) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Set outlines = fuzz::outlinesFrom(data, size);
-    const gkRegionSet set = setOf(outlines);
     fuzz::demandEqual(answer([&] { return oracle::isSelfIntersecting(outlines); }),
-                      answer([&] { return set.isSelfIntersecting(); }), "isSelfIntersecting");
+                      answer([&] { return setOf(outlines).isSelfIntersecting(); }), "isSelfIntersecting");
     for (const bool outerHull : {false, true}) {
         const Answer plain =
             answer([&] { return outerHull ? oracle::outerHull(outlines) : oracle::regularize(outlines); });
+        const gkRegionSet set = setOf(outlines);
         fuzz::demandEqual(plain, repaired(set, outerHull), "the repaired set");
-        fuzz::demandEqual(plain, repaired(set, outerHull), "the repaired set, asked again");
+        // After an error a set keeps what it had found by then, and goes by that.
+        if (plain.error.empty())
+            fuzz::demandEqual(plain, repaired(set, outerHull), "the repaired set, asked again");
     }
     return 0;
 }

@@ -30,6 +30,13 @@ Points outlineFrom(Source& source) {
     return gen::shape(chosen.finite ? chosen : plain[0], seed);
 }
 
+// For sets: one that another outline can be held against. Where that is refused, a set keeps what it had found
+// by then, and a twin cannot know.
+Points whatSetsTakeFrom(Source& source) {
+    const Points points = outlineFrom(source);
+    return points.size() < 2 ? Points{{0.0, 0.0}, {1.0, 1.0}} : points;
+}
+
 // Everything that is no kept result.
 gkContour twinOf(const gkContour& contour) {
     gkContour twin(contour.points(), contour.isClosed(), contour.label());
@@ -111,7 +118,7 @@ void change(gkRegionSet& set, Source& source) {
         if (regions.empty()) return;
         return set.add(regions[source.below(regions.size())], mode); // once more the same object
     default:
-        if (regions.size() < 4) set.add(Handle(new gkRegion(outlineFrom(source))), mode);
+        if (regions.size() < 4) set.add(Handle(new gkRegion(whatSetsTakeFrom(source))), mode);
     }
 }
 

@@ -15,28 +15,32 @@ namespace {
 using Bytes = std::vector<unsigned char>;
 using hostile::Content;
 
-// Regions that handles lead to. All are held until the last one has let go of its own handles, so that nothing
-// is freed while it is being walked.
+// The regions that objects lead to. All that stand behind handles are held until the last one has let go of its
+// own handles, so that nothing is freed while it is being walked.
 class Regions {
 public:
-    void collect(const gkRepBase* object) {
-        if (const auto* region = dynamic_cast<const gkRegion*>(object)) collectRegion(region);
-        if (const auto* set = dynamic_cast<const gkRegionSet*>(object)) {
-            for (const auto& region : set->regions()) collect(region.rep());
+    void collectOwned(const gkRepBase* object) {
+        if (const auto* region = dynamic_cast<const gkRegion*>(object)) {
+            for (const auto& hole : region->holes()) collectShared(hole.rep());
+        } else {
+            collectShared(object);
         }
     }
-    void untie() {
+    void collectShared(const gkRepBase* object) {
+        if (const auto* region = dynamic_cast<const gkRegion*>(object)) {
+            if (!known_.insert(region).second) return;
+            found_.emplace_back(region);
+            collectOwned(region);
+        } else if (const auto* set = dynamic_cast<const gkRegionSet*>(object)) {
+            for (const auto& member : set->regions()) collectShared(member.rep());
+        }
+    }
+    const std::set<const gkRegion*>& all() const { return known_; }
+    void untie() const {
         for (const gk_RepHold& region : found_) const_cast<gkRepBase*>(region.get())->forgetHandles();
-        found_.clear();
     }
 
 private:
-    void collectRegion(const gkRegion* region) {
-        if (!known_.insert(region).second) return;
-        found_.emplace_back(region);
-        for (const auto& hole : region->holes()) collect(hole.rep());
-    }
-
     std::set<const gkRegion*> known_;
     std::vector<gk_RepHold> found_;
 };
@@ -47,18 +51,11 @@ public:
         archive || static_cast<gkPersistent&>(inPlace_);
         archive || shared_;
     }
-    void untie() override {
-        Regions regions;
-        if (const auto* region = dynamic_cast<const gkRegion*>(static_cast<gkRepBase*>(&inPlace_))) {
-            for (const auto& hole : region->holes()) regions.collect(hole.rep());
-        } else {
-            regions.collect(&inPlace_);
-        }
-        regions.collect(shared_.rep());
-        regions.untie();
-    }
 
 private:
+    std::vector<const gkRepBase*> shared() const override { return {shared_.rep()}; }
+    std::vector<const gkRepBase*> owned() const override { return {&inPlace_}; }
+
     Shape inPlace_;
     gkPtrHandle<Shape> shared_;
 };
@@ -84,21 +81,15 @@ public:
         archive || static_cast<gkPersistent&>(badParams_) || static_cast<gkPersistent&>(setOpen_);
         passOwned(archive, owned_);
     }
-    void untie() override {
-        Regions regions;
-        for (const auto& object : owned_) {
-            const auto* const rep = dynamic_cast<const gkRepBase*>(object.get());
-            // The owner's pointer is no handle, so the object itself must not be held.
-            if (const auto* region = dynamic_cast<const gkRegion*>(rep)) {
-                for (const auto& hole : region->holes()) regions.collect(hole.rep());
-            } else {
-                regions.collect(rep);
-            }
-        }
-        regions.untie();
-    }
 
 private:
+    std::vector<const gkRepBase*> shared() const override { return {}; }
+    std::vector<const gkRepBase*> owned() const override {
+        std::vector<const gkRepBase*> all;
+        for (const auto& object : owned_) all.push_back(dynamic_cast<const gkRepBase*>(object.get()));
+        return all;
+    }
+
     gkContourDefs::EmptyContour emptyContour_{std::wstring()};
     gkContourDefs::EmptyRegionSet emptyRegionSet_{std::wstring()};
     gkContourDefs::BadParams badParams_{std::wstring()};
@@ -112,20 +103,45 @@ public:
         archive || contours_ || sets_ || transforms_;
         archive || static_cast<gkPersistent&>(region_);
     }
-    void untie() override {
-        Regions regions;
-        for (const auto& contour : contours_) regions.collect(contour.rep());
-        for (const auto& set : sets_) regions.collect(set.rep());
-        for (const auto& hole : region_.holes()) regions.collect(hole.rep());
-        regions.untie();
-    }
 
 private:
+    std::vector<const gkRepBase*> shared() const override {
+        std::vector<const gkRepBase*> all;
+        for (const auto& contour : contours_) all.push_back(contour.rep());
+        for (const auto& set : sets_) all.push_back(set.rep());
+        return all;
+    }
+    std::vector<const gkRepBase*> owned() const override { return {&region_}; }
+
     std::vector<gkPtrHandle<gkContour>> contours_;
     std::vector<gkPtrHandle_const<gkRegionSet>> sets_;
     std::vector<gkPtrHandle_const<gk2XformBase>> transforms_;
     gkRegion region_;
 };
+
+Regions regionsOf(const std::vector<const gkRepBase*>& shared, const std::vector<const gkRepBase*>& owned) {
+    Regions regions;
+    for (const gkRepBase* object : shared) regions.collectShared(object);
+    for (const gkRepBase* object : owned) regions.collectOwned(object);
+    return regions;
+}
+
+// An answer or an error of the library's own.
+template <class Ask> void asked(Ask ask) {
+    try {
+        ask();
+    } catch (const gkException&) {
+    }
+}
+
+void askRegion(const gkRegion& region) {
+    asked([&] { region.area(true); });
+    asked([&] { region.centerOfMass(true); });
+    if (region.points().empty()) return;
+    const gkVector<2> p = region.points().front();
+    asked([&] { region.inside(p, true); });
+    asked([&] { region.closestPoint(p, false, true); });
+}
 
 template <class Kind> std::unique_ptr<Content> made() { return std::make_unique<Kind>(); }
 
@@ -155,6 +171,13 @@ struct Untied {
 
 namespace hostile {
 
+void Content::ask() const {
+    const Regions regions = regionsOf(shared(), owned());
+    for (const gkRegion* region : regions.all()) askRegion(*region);
+}
+
+void Content::untie() { regionsOf(shared(), owned()).untie(); }
+
 std::unique_ptr<Content> empty(const std::string& kind) { return makers().at(kind)(); }
 
 const std::vector<std::string>& kinds() {
@@ -172,6 +195,7 @@ Bytes rewritten(const std::string& kind, const Bytes& bytes) {
     gkArchiveMemory in(bytes);
     content->pass(in);
     in.finish();
+    content->ask();
     gkArchiveMemory out;
     content->pass(out);
     out.finish();

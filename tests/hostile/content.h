@@ -19,8 +19,15 @@ public:
 
     // Reads or writes all of it, as the archive's direction says.
     virtual void pass(gkArchive& archive) = 0;
+    // Asks every region that was read, holes and holes of holes, whatever hostile holes may answer badly.
+    void ask() const;
     // Lets go of handles that may form rings; what was read is of no further use.
-    virtual void untie() = 0;
+    void untie();
+
+protected:
+    // Whatever it holds that is or may lead to regions; `owned` itself must not be held by a handle.
+    virtual std::vector<const gkRepBase*> shared() const = 0;
+    virtual std::vector<const gkRepBase*> owned() const = 0;
 };
 
 // A shape of each kind comes first in place, then behind a handle.
@@ -31,7 +38,7 @@ std::unique_ptr<Content> empty(const std::string& kind);
 
 const std::vector<std::string>& kinds();
 
-// Reads the bytes to their end and writes what they say, with the rings untied. Throws gkArchive::Errors.
+// Reads the bytes to their end, asks what was read and writes what it says. Throws gkArchive::Errors.
 std::vector<unsigned char> rewritten(const std::string& kind, const std::vector<unsigned char>& bytes);
 
 // What rewritten() owes for any bytes at all: one of gkArchive::Errors, or bytes that are read and written as

@@ -126,6 +126,22 @@ TEST(HostileGraph, KeepsRingsAndWritesThemAgain) {
     expectHarmless("edgelet_set", set);
 }
 
+// Every region is the hole of the next one twice; what was read is asked as well.
+TEST(HostileGraph, OfHolesSharedOnEveryLevelIsAskedInTime) {
+    std::string open;
+    const unsigned long levels = 180;
+    for (unsigned long i = 1; i < levels; ++i)
+        open += hex::object(i, "gkRegion", "01" + hex::contour() + hex::list(2));
+    std::string close;
+    for (unsigned long i = levels; i > 1; --i) close += hex::number(i);
+    const std::string last = hex::object(levels, "gkRegion", hex::region());
+    const Bytes bytes = contoursOnly(hex::list(1) + open + last + close);
+    EXPECT_TRUE(read("graph", bytes).isRead);
+    // The region in place is written as today's record, which is 9 bytes longer.
+    EXPECT_EQ(bytes.size() + 9, rewritten("graph", bytes).size());
+    expectHarmless("graph", bytes);
+}
+
 TEST(HostileGraph, FreesRingsWhenItBreaksOff) {
     const std::string ring =
         hex::object(1, "gkRegion", hex::region(hex::list(2) + hex::number(1) + hex::number(9)));
