@@ -24,7 +24,7 @@ mapfile -t public < <(
 
 for header in "${public[@]}"; do
     while read -r included; do
-        printf '%s\n' "${public[@]}" | grep -qxF "$included" ||
+        grep -qxF "$included" < <(printf '%s\n' "${public[@]}") ||
             complain "$header: includes \"$included\", which is not a public header"
     done < <(sed -n 's/^ *# *include *"\([^"]*\)".*/\1/p' "$header")
     while read -r included; do
