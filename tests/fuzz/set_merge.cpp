@@ -4,9 +4,21 @@
 #include "tests/oracle/repair.h"
 #include "tests/support/answer.h"
 
+#include <algorithm>
+
 namespace {
 
 using Set = std::vector<fuzz::Points>;
+
+// Of each member: the plain definitions take the third power of all vertices, and two members together are
+// still more than the 48 from which on an index answers.
+constexpr std::size_t kMostOfMember = 24;
+
+Set membersFrom(const std::uint8_t* data, std::size_t size) {
+    Set outlines = fuzz::outlinesFrom(data, size);
+    for (fuzz::Points& points : outlines) points.resize(std::min(points.size(), kMostOfMember));
+    return outlines;
+}
 
 gkRegionSet setOf(const Set& outlines) {
     std::vector<gkPtrHandle_const<gkRegion>> regions;
@@ -28,7 +40,7 @@ Answer repaired(const gkRegionSet& set, bool outerHull) {
 } // namespace
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const Set outlines = fuzz::outlinesFrom(data, size);
+    const Set outlines = membersFrom(data, size);
     fuzz::demandEqual(answer([&] { return oracle::isSelfIntersecting(outlines); }),
                       answer([&] { return setOf(outlines).isSelfIntersecting(); }), "isSelfIntersecting");
     for (const bool outerHull : {false, true}) {
