@@ -39,7 +39,7 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     gk_Kept<gkCircle>& kept = caches_.circles[mode];
     if (kept.valid) return kept.value;
     if (mode == gkContourDefs::eExact) {
-        search().circleOverFarthestPair(value_.points, kept.value);
+        gk_OutlineSearch::circleOverFarthestPair(value_.points, kept.value);
     } else {
         if (value_.points.empty()) throw gkContourDefs::EmptyContour(L"");
         kept.value = gk_CircleAroundFirst(value_.points);

@@ -1,92 +1,145 @@
 #include "cntr/search/farthest_pair.h"
 
 #include "cntr/search/box_hierarchy.h"
+#include "cntr/search/magnitude.h"
+#include "platform/core/math/two_doubles.h"
 #include "platform/core/math/vector_ops.h"
+#include "platform/core/shapes/hull_sieve.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr std::size_t kRun = 16; // vertices to a box
+using Points = std::vector<gkVector<2>>;
+using Names = std::vector<std::size_t>;
 
 double square(const gkVector<2>& a, const gkVector<2>& b) {
     const gkVector<2> offset = b - a;
     return gk_VectorOps::dot(offset, offset);
 }
 
-// The farthest pair so far. Squares are compared first: the root is monotone also as it rounds, so a lesser
-// root has a lesser square, and squares a few roundings apart may share a root.
-class Farthest {
-public:
-    Farthest(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer)
-        : points_(points), outer_(outer) {}
-
-    bool mayBeat(double greatestSquare) const { return greatestSquare >= nearly2_; }
-
-    void offer(std::size_t i, std::size_t j) {
-        const double distance2 = square(points_[outer_[i]], points_[outer_[j]]);
-        if (distance2 < nearly2_) return;
-        const double distance = std::sqrt(distance2);
-        const bool isFirst = outer_[i] < pair_.first || (outer_[i] == pair_.first && outer_[j] < pair_.second);
-        if (!(distance > pair_.distance || (distance == pair_.distance && isFirst))) return;
-        pair_ = {outer_[i], outer_[j], distance};
-        nearly2_ = distance2 * (1.0 - 0x1p-49);
-    }
-
-    const gk_VertexPair& pair() const { return pair_; }
-
-private:
-    const std::vector<gkVector<2>>& points_;
-    const std::vector<std::uint32_t>& outer_;
-    gk_VertexPair pair_{0, 0, 0.0};
-    double nearly2_ = 0x1p-1074; // pairs of equal vertices do not count
-};
-
+// Of the distances between places of two boxes.
 double greatestSquare(const gk_Box& a, const gk_Box& b) {
     const double dx = std::max(a.x1 - b.x0, b.x1 - a.x0);
     const double dy = std::max(a.y1 - b.y0, b.y1 - a.y0);
     return (dx * dx + dy * dy) * (1.0 + 0x1p-49);
 }
 
-std::size_t farthestFrom(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer,
-                         std::size_t from) {
-    std::size_t farthest = from;
-    double greatest = 0.0;
-    for (std::size_t i = 0; i < outer.size(); ++i) {
-        const double distance2 = square(points[outer[from]], points[outer[i]]);
-        if (distance2 <= greatest) continue;
-        greatest = distance2;
-        farthest = i;
+// The farthest pair so far. Squares are compared first: the root is monotone also as it rounds, so a lesser
+// root has a lesser square, and squares a few roundings apart may share a root.
+class Farthest {
+public:
+    // The vertices' indices are `names`, or their own places when there is none. Some pair's square is at least
+    // `someSquare`; 0 when all vertices may be equal, whose pairs do not count.
+    Farthest(const Points& points, const Names& names, double someSquare)
+        : points_(points), names_(names), nearly2_(std::max(nearly(someSquare), 0x1p-1074)) {}
+
+    bool mayBeat(double greatestSquare) const { return greatestSquare >= nearly2_; }
+
+    void offer(std::size_t i, std::size_t j) {
+        const double distance2 = square(points_[i], points_[j]);
+        if (distance2 < nearly2_) return;
+        const std::size_t a = nameOf(i);
+        const std::size_t b = nameOf(j);
+        const gk_VertexPair pair{std::min(a, b), std::max(a, b), std::sqrt(distance2)};
+        const bool isFirst =
+            pair.first < pair_.first || (pair.first == pair_.first && pair.second < pair_.second);
+        if (!(pair.distance > pair_.distance || (pair.distance == pair_.distance && isFirst))) return;
+        pair_ = pair;
+        nearly2_ = std::max(nearly2_, nearly(distance2));
     }
-    return farthest;
+
+    // Every vertex of the one range with every one of the other.
+    void offerAll(std::size_t begin, std::size_t end, std::size_t otherBegin, std::size_t otherEnd,
+                  const gk_Box& other) {
+        for (std::size_t i = begin; i < end; ++i) {
+            if (!mayBeat(greatestSquare(gk_Box::of(points_[i], points_[i]), other))) continue;
+            for (std::size_t j = otherBegin; j < otherEnd; ++j) offer(i, j);
+        }
+    }
+
+    const gk_VertexPair& pair() const { return pair_; }
+
+private:
+    std::size_t nameOf(std::size_t i) const { return names_.empty() ? i : names_[i]; }
+    static double nearly(double square) { return square * (1.0 - 0x1p-49); }
+
+    const Points& points_;
+    const Names& names_;
+    gk_VertexPair pair_{0, 0, 0.0};
+    double nearly2_;
+};
+
+// The greatest of the squares met when going from corner to farthest corner.
+double someGreatSquare(const Points& corners) {
+    double greatest = 0.0;
+    std::size_t from = 0;
+    for (int step = 0; step < 3; ++step) {
+        std::size_t to = from;
+        for (std::size_t i = 0; i < corners.size(); ++i) {
+            const double distance2 = square(corners[from], corners[i]);
+            if (distance2 <= greatest) continue;
+            greatest = distance2;
+            to = i;
+        }
+        from = to;
+    }
+    return greatest;
+}
+
+gk_VertexPair farthestOfRuns(const Points& points, const Names& names, const gk_HullSieve& sieve,
+                             const gk_HullSieve::OuterRuns& outer) {
+    Farthest farthest(points, names, someGreatSquare(outer.corners));
+    std::vector<gk_Box> boxes;
+    boxes.reserve(outer.runs.size());
+    for (const std::size_t run : outer.runs) {
+        const gk_HullBox& box = sieve.boxOf(run);
+        boxes.push_back({box[0], box[1], box[2], box[3]});
+    }
+    const auto wanted = [&](const gk_Box& a, const gk_Box& b) {
+        return farthest.mayBeat(greatestSquare(a, b));
+    };
+    const auto beginOf = [](std::size_t run) { return run * gk_HullSieve::kRun; };
+    const auto endOf = [&](std::size_t run) { return std::min(beginOf(run + 1), points.size()); };
+    gk_BoxHierarchy(boxes).anyPair(wanted, [&](std::size_t a, std::size_t b) {
+        const std::size_t one = outer.runs[a];
+        const std::size_t other = outer.runs[b];
+        if (a != b || wanted(boxes[a], boxes[a]))
+            farthest.offerAll(beginOf(one), endOf(one), beginOf(other), endOf(other), boxes[b]);
+        return false;
+    });
+    return farthest.pair();
+}
+
+// For vertices in no order: those near the hull, laid around it.
+gk_VertexPair farthestOfPoints(const Points& points, const gk_HullSieve& sieve, double slack) {
+    gk_HullSieve::OuterPoints outer = sieve.outerPoints(slack);
+    const auto isBefore = [&](std::size_t a, std::size_t b) { return points[a].x() < points[b].x(); };
+    std::sort(outer.lower.begin(), outer.lower.end(), isBefore);
+    std::sort(outer.upper.begin(), outer.upper.end(), isBefore);
+    Names names = outer.lower;
+    names.insert(names.end(), outer.upper.begin(), outer.upper.end());
+    Points around;
+    around.reserve(names.size());
+    for (const std::size_t name : names) around.push_back(points[name]);
+    const gk_HullSieve sieveOfThese(around);
+    return farthestOfRuns(around, names, sieveOfThese, sieveOfThese.outerRuns(slack));
 }
 
 } // namespace
 
-// Runs of outer vertices lie along the hull, so that boxes of them tell most pairs of runs apart once a far
-// pair is known; going from vertex to farthest vertex finds one.
-gk_VertexPair gk_FarthestPair(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer) {
-    Farthest farthest(points, outer);
-    std::size_t from = 0;
-    for (int step = 0; step < 3; ++step) {
-        const std::size_t to = farthestFrom(points, outer, from);
-        if (from != to) farthest.offer(std::min(from, to), std::max(from, to));
-        from = to;
-    }
-    std::vector<gk_Box> boxes;
-    for (std::size_t begin = 0; begin < outer.size(); begin += kRun) {
-        gk_Box box = gk_Box::of(points[outer[begin]], points[outer[begin]]);
-        for (std::size_t i = begin; i < std::min(begin + kRun, outer.size()); ++i)
-            box = box.enclosing(gk_Box::of(points[outer[i]], points[outer[i]]));
-        boxes.push_back(box);
-    }
-    const auto offerAll = [&](std::size_t a, std::size_t b) {
-        for (std::size_t i = a * kRun; i < std::min((a + 1) * kRun, outer.size()); ++i)
-            for (std::size_t j = std::max(i + 1, b * kRun); j < std::min((b + 1) * kRun, outer.size()); ++j)
-                farthest.offer(i, j);
-        return false;
-    };
-    gk_BoxHierarchy(boxes).anyPair(
-        [&](const gk_Box& a, const gk_Box& b) { return farthest.mayBeat(greatestSquare(a, b)); }, offerAll);
-    return farthest.pair();
+// A computed distance is less than half the slack off (magnitude.h). An end of a pair that is e short of the
+// farthest two is no deeper in the hull than e: from the other end, a hull vertex beyond it would be farther
+// than the farthest. Runs that come around the hull lie in boxes that tell most pairs of them apart.
+std::optional<gk_VertexPair> gk_FarthestPair(const Points& points) {
+    if (points.empty()) return std::nullopt;
+    const gk_HullSieve sieve(points);
+    const gk_HullBox& all = sieve.box();
+    const gkVector<2> least(all[0], all[1]);
+    const gkVector<2> greatest(all[2], all[3]);
+    if (!sieve.areFinite() || !gk_IsModerate(least) || !gk_IsModerate(greatest)) return std::nullopt;
+    const double slack = 2.0 * gk_DistanceSlack(std::max(gk_Reach(least), gk_Reach(greatest)));
+    const gk_HullSieve::OuterRuns outer = sieve.outerRuns(slack);
+    return outer.areTelling ? farthestOfRuns(points, {}, sieve, outer) : farthestOfPoints(points, sieve, slack);
 }

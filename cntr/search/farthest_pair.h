@@ -5,7 +5,7 @@
 #include "platform/core/math/vector.h"
 
 #include <cstddef>
-#include <cstdint>
+#include <optional>
 #include <vector>
 
 struct gk_VertexPair {
@@ -14,8 +14,8 @@ struct gk_VertexPair {
     double distance;    // 0 when no pair is farther apart
 };
 
-// The pair with the greatest computed distance, the lowest first index among equals and then the lowest second,
-// of the vertices `outer`: ascending indices, moderate coordinates (magnitude.h).
-gk_VertexPair gk_FarthestPair(const std::vector<gkVector<2>>& points, const std::vector<std::uint32_t>& outer);
+// The pair with the greatest computed distance, the lowest first index among equals and then the lowest second.
+// None without vertices or with coordinates that are not moderate (magnitude.h).
+std::optional<gk_VertexPair> gk_FarthestPair(const std::vector<gkVector<2>>& points);
 
 #endif

@@ -7,7 +7,6 @@
 #include "cntr/search/inside_cells.h"
 #include "cntr/search/inside_scan.h"
 #include "cntr/search/nearest.h"
-#include "cntr/search/outer_vertices.h"
 #include "platform/core/shapes/line_ops.h"
 
 namespace {
@@ -105,14 +104,6 @@ std::vector<int> gk_OutlineSearch::verticesWithin(const Points& points, const gk
     return vertexCells_.near(points, vertexTreeWhenAsked(points), p, tolerance);
 }
 
-const std::vector<std::uint32_t>* gk_OutlineSearch::outerVertices(const Points& points) {
-    if (outerTried_ || points.size() < kFewestForTree) return outer_.get();
-    if (std::optional<std::vector<std::uint32_t>> found = gk_OuterVertices(points))
-        outer_ = std::make_shared<const std::vector<std::uint32_t>>(*std::move(found));
-    outerTried_ = true;
-    return outer_.get();
-}
-
 const gk_VertexRuns* gk_OutlineSearch::vertexRunsWhenAsked(const Points& points) {
     if (!runs_ && points.size() >= kFewestForRuns && isFrom(kRunsFrom, askedDirections_))
         runs_ = std::make_shared<const gk_VertexRuns>(points);
@@ -132,14 +123,13 @@ gkRect gk_OutlineSearch::encloseRect(const Points& points, const gkXform<2>& xfo
 }
 
 void gk_OutlineSearch::circleOverFarthestPair(const Points& points, gkCircle& circle) {
-    const std::vector<std::uint32_t>* const outer = outerVertices(points);
-    if (outer == nullptr) {
+    const std::optional<gk_VertexPair> pair =
+        points.size() < kFewestForTree ? std::nullopt : gk_FarthestPair(points);
+    if (!pair) {
         gk_CircleOverFarthestPair(points, circle);
-        return;
+    } else if (pair->distance > 0.0) {
+        circle = gkCircle((points[pair->first] + points[pair->second]) / 2.0, pair->distance / 2.0);
     }
-    const gk_VertexPair pair = gk_FarthestPair(points, *outer);
-    if (pair.distance > 0.0)
-        circle = gkCircle((points[pair.first] + points[pair.second]) / 2.0, pair.distance / 2.0);
 }
 
 std::size_t gk_OutlineSearch::nearestSegment(const gk_Segments& outline, const gkVector<2>& p) {

@@ -50,7 +50,7 @@ public:
     // The measures of cntr/measures.h.
     long extremalVertex(const Points& points, const gkRadian& angle);
     gkRect encloseRect(const Points& points, const gkXform<2>& xform);
-    void circleOverFarthestPair(const Points& points, gkCircle& circle);
+    static void circleOverFarthestPair(const Points& points, gkCircle& circle);
 
     // The point of the outline nearest to p, on the first of equally near segments; (0, 0) when no distance is
     // below infinity.
@@ -90,7 +90,6 @@ private:
     const gk_VertexTree* vertexTreeWhenAsked(const Points& points);
     const gk_SegmentCells* cellsWithParity(const gk_Segments& outline);
     const gk_SegmentCells* crowdedCells(const gk_Segments& outline);
-    const std::vector<std::uint32_t>* outerVertices(const Points& points);
     const gk_VertexRuns* vertexRunsWhenAsked(const Points& points);
     std::size_t nearestSegment(const gk_Segments& outline, const gkVector<2>& p);
     const InsideIndex* insideIndexWhenAsked(const gk_Segments& outline, double rayLength);
@@ -98,7 +97,6 @@ private:
     std::shared_ptr<const gk_SegmentTree> tree_;
     std::shared_ptr<const gk_VertexTree> vertexTree_;
     std::shared_ptr<const InsideIndex> inside_;
-    std::shared_ptr<const std::vector<std::uint32_t>> outer_;
     std::shared_ptr<const gk_SegmentCells> cells_;
     std::shared_ptr<const gk_VertexRuns> runs_;
     gk_VertexCells vertexCells_;
@@ -112,7 +110,6 @@ private:
     bool cellsTried_ = false;
     bool crowdTried_ = false;
     bool vertexTreeTried_ = false;
-    bool outerTried_ = false;
 };
 
 #endif

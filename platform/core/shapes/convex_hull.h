@@ -18,9 +18,9 @@
 ///
 /// The result is the same on every platform and, apart from the sign of zeros, for every order of the points.
 ///
-/// Cost: O(n log n), one working copy of the points that may lie on the hull; points well inside are sorted out
-/// in O(n). Throws nothing but std::bad_alloc. Source: Andrew's monotone chain (1979), with the elimination of
-/// Akl and Toussaint (1978) and, for many points, extremes by strips as in Bentley, Faust and Preparata (1982).
+/// Cost: O(n log n) at most. Of an outline, whose neighbours are near each other, most points are sorted out
+/// eight at a time, by boxes of 4 bytes a point. Throws nothing but std::bad_alloc. Source: Andrew's monotone
+/// chain (1979) over the points that a polygon grown as in Quickhull (Eddy, 1977) leaves outside.
 GKCNTR_API std::vector<gkVector<2>> gfConvexHull(const std::vector<gkVector<2>>& points);
 
 #endif
