@@ -228,6 +228,7 @@ gk_HullSieve::OuterPoints gk_HullSieve::outerPoints(double slack) const {
                 edge, points, ByPoint(points_),
                 [&](std::size_t k) { return begin[k / kRun] * kRun + k % kRun; }, keep, ignore);
         };
+        side.reserve(runs_.size());
         overRuns.grow(
             overRuns.edge(from, to), runs_.size(), ByRun(points_, runs_), [](std::size_t k) { return k; },
             split, ignore);
