@@ -1,6 +1,7 @@
 #include "cntr/search/farthest_pair.h"
 
 #include "cntr/search/box_hierarchy.h"
+#include "cntr/search/distinct_places.h"
 #include "cntr/search/magnitude.h"
 #include "platform/core/math/two_doubles.h"
 #include "platform/core/math/vector_ops.h"
@@ -8,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
@@ -25,6 +27,9 @@ double greatestSquare(const gk_Box& a, const gk_Box& b) {
     const double dy = std::max(a.y1 - b.y0, b.y1 - a.y0);
     return (dx * dx + dy * dy) * (1.0 + 0x1p-49);
 }
+
+// From so many pairs of runs on, for each vertex, it is asked whether many vertices are at the same place.
+constexpr std::size_t kMostPairs = 8;
 
 // The farthest pair so far. Squares are compared first: the root is monotone also as it rounds, so a lesser
 // root has a lesser square, and squares a few roundings apart may share a root.
@@ -88,8 +93,9 @@ double someGreatSquare(const Points& corners) {
     return greatest;
 }
 
-gk_VertexPair farthestOfRuns(const Points& points, const Names& names, const gk_HullSieve& sieve,
-                             const gk_HullSieve::OuterRuns& outer) {
+// None when more pairs of runs than `most` may hold the farthest two.
+std::optional<gk_VertexPair> farthestOfRuns(const Points& points, const Names& names, const gk_HullSieve& sieve,
+                                            const gk_HullSieve::OuterRuns& outer, std::size_t most) {
     Farthest farthest(points, names, someGreatSquare(outer.corners));
     std::vector<gk_Box> boxes;
     boxes.reserve(outer.runs.size());
@@ -102,29 +108,37 @@ gk_VertexPair farthestOfRuns(const Points& points, const Names& names, const gk_
     };
     const auto beginOf = [](std::size_t run) { return run * gk_HullSieve::kRun; };
     const auto endOf = [&](std::size_t run) { return std::min(beginOf(run + 1), points.size()); };
-    gk_BoxHierarchy(boxes).anyPair(wanted, [&](std::size_t a, std::size_t b) {
+    std::size_t pairs = 0;
+    const bool stopped = gk_BoxHierarchy(boxes).anyPair(wanted, [&](std::size_t a, std::size_t b) {
         const std::size_t one = outer.runs[a];
         const std::size_t other = outer.runs[b];
         if (a != b || wanted(boxes[a], boxes[a]))
             farthest.offerAll(beginOf(one), endOf(one), beginOf(other), endOf(other), boxes[b]);
-        return false;
+        return ++pairs > most;
     });
+    if (stopped) return std::nullopt;
     return farthest.pair();
 }
 
 // For vertices in no order: those near the hull, laid around it.
-gk_VertexPair farthestOfPoints(const Points& points, const gk_HullSieve& sieve, double slack) {
+std::optional<gk_VertexPair> farthestOfPoints(const Points& points, const gk_HullSieve& sieve, double slack,
+                                              std::size_t most) {
     gk_HullSieve::OuterPoints outer = sieve.outerPoints(slack);
     const auto isBefore = [&](std::size_t a, std::size_t b) { return points[a].x() < points[b].x(); };
     std::sort(outer.lower.begin(), outer.lower.end(), isBefore);
     std::sort(outer.upper.begin(), outer.upper.end(), isBefore);
     Names names = outer.lower;
     names.insert(names.end(), outer.upper.begin(), outer.upper.end());
-    Points around;
-    around.reserve(names.size());
-    for (const std::size_t name : names) around.push_back(points[name]);
+    const Points around = gk_VerticesAt(points, names);
     const gk_HullSieve sieveOfThese(around);
-    return farthestOfRuns(around, names, sieveOfThese, sieveOfThese.outerRuns(slack));
+    return farthestOfRuns(around, names, sieveOfThese, sieveOfThese.outerRuns(slack), most);
+}
+
+std::optional<gk_VertexPair> farthestOf(const Points& points, const gk_HullSieve& sieve, double slack,
+                                        std::size_t most) {
+    const gk_HullSieve::OuterRuns outer = sieve.outerRuns(slack);
+    return outer.areTelling ? farthestOfRuns(points, {}, sieve, outer, most)
+                            : farthestOfPoints(points, sieve, slack, most);
 }
 
 } // namespace
@@ -140,6 +154,10 @@ std::optional<gk_VertexPair> gk_FarthestPair(const Points& points) {
     const gkVector<2> greatest(all[2], all[3]);
     if (!sieve.areFinite() || !gk_IsModerate(least) || !gk_IsModerate(greatest)) return std::nullopt;
     const double slack = 2.0 * gk_DistanceSlack(std::max(gk_Reach(least), gk_Reach(greatest)));
-    const gk_HullSieve::OuterRuns outer = sieve.outerRuns(slack);
-    return outer.areTelling ? farthestOfRuns(points, {}, sieve, outer) : farthestOfPoints(points, sieve, slack);
+    if (const auto pair = farthestOf(points, sieve, slack, kMostPairs * points.size())) return pair;
+    const Names names = gk_DistinctPlaces(points);
+    if (names.size() > points.size() / 2) return farthestOf(points, sieve, slack, SIZE_MAX);
+    const Points places = gk_VerticesAt(points, names);
+    const auto pair = farthestOf(places, gk_HullSieve(places), slack, SIZE_MAX);
+    return gk_VertexPair{names[pair->first], names[pair->second], pair->distance};
 }

@@ -3,6 +3,7 @@
 #include "cntr/index.h"
 #include "cntr/inside_count.h"
 #include "cntr/measures.h"
+#include "cntr/search/distinct_places.h"
 #include "cntr/search/farthest_pair.h"
 #include "cntr/search/inside_cells.h"
 #include "cntr/search/inside_scan.h"
@@ -123,10 +124,14 @@ gkRect gk_OutlineSearch::encloseRect(const Points& points, const gkXform<2>& xfo
 }
 
 void gk_OutlineSearch::circleOverFarthestPair(const Points& points, gkCircle& circle) {
-    const std::optional<gk_VertexPair> pair =
-        points.size() < kFewestForTree ? std::nullopt : gk_FarthestPair(points);
-    if (!pair) {
+    if (points.size() < kFewestForTree) {
         gk_CircleOverFarthestPair(points, circle);
+        return;
+    }
+    const std::optional<gk_VertexPair> pair = gk_FarthestPair(points);
+    if (!pair) {
+        // The first of the farthest pairs is one of first vertices at their places.
+        gk_CircleOverFarthestPair(gk_VerticesAt(points, gk_DistinctPlaces(points)), circle);
     } else if (pair->distance > 0.0) {
         circle = gkCircle((points[pair->first] + points[pair->second]) / 2.0, pair->distance / 2.0);
     }

@@ -1,5 +1,8 @@
 // The farthest pair. Oracle: tests/oracle/circle.h, all pairs.
 #include "cntr/search/farthest_pair.h"
+
+#include "cntr/contour.h"
+#include "cntr/search/distinct_places.h"
 #include "tests/cntr/search/search_shapes.h"
 #include "tests/oracle/circle.h"
 #include "tests/support/answer.h"
@@ -37,6 +40,36 @@ Points regularPolygon(std::size_t count, double radius) {
 
 TEST(FarthestPair, IsThatOfThePlainScan) {
     search::each(12, [&](const Points& points, std::uint64_t) { expectThePlainPair(points); });
+}
+
+TEST(FarthestPair, OfVerticesAtFewPlacesIsThatOfThePlainScan) {
+    for (std::uint64_t seed = 1; seed <= gen::rounds(40); ++seed) {
+        SCOPED_TRACE(seed);
+        gen::Random random(seed);
+        Points places = {{0, 0}};
+        const int count = random.integer(0, 9);
+        for (int i = 0; i < count; ++i) places.emplace_back(random.integer(-3, 3), random.integer(-3, 3));
+        Points points;
+        for (int i = 0; i < 1500; ++i) points.push_back(places[random.index(places.size())]);
+        ASSERT_TRUE(gk_FarthestPair(points));
+        expectThePlainPair(points);
+    }
+}
+
+TEST(DistinctPlaces, AreTheFirstVerticesAtThem) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const Points points = {{2, 1}, {nan, 1}, {0, 1}, {2, 1}, {-0.0, 1}, {1, nan}, {2, 0}, {2, 1}};
+    EXPECT_EQ((std::vector<std::size_t>{0, 2, 6}), gk_DistinctPlaces(points));
+    EXPECT_EQ((Points{{2, 1}, {0, 1}, {2, 0}}), gk_VerticesAt(points, {0, 2, 6}));
+}
+
+// Without a tree as well: large, infinite and no numbers among the vertices.
+TEST(FarthestPair, OfAContourIsThatOfThePlainScan) {
+    search::each(4, [&](const Points& points, std::uint64_t) {
+        const gkContour contour(points, true, 0);
+        ASSERT_EQ(answer([&] { return oracle::circleOverFarthestPair(points, gkCircle()); }),
+                  answer([&] { return contour.encloseCircle(gkContourDefs::eExact); }));
+    });
 }
 
 TEST(FarthestPair, IsThatOfThePlainScanWhateverTheOrder) {
