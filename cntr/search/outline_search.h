@@ -6,6 +6,7 @@
 #include "cntr/crossings.h"
 #include "cntr/search/close_segments.h"
 #include "cntr/search/inside_certificate.h"
+#include "cntr/search/outer_vertices.h"
 #include "cntr/search/segment_cells.h"
 #include "cntr/search/segment_tree.h"
 #include "cntr/search/vertex_cells.h"
@@ -91,6 +92,7 @@ private:
     const gk_SegmentCells* cellsWithParity(const gk_Segments& outline);
     const gk_SegmentCells* crowdedCells(const gk_Segments& outline);
     const gk_VertexRuns* vertexRunsWhenAsked(const Points& points);
+    const gk_OuterVertices* outerVerticesWhenAsked(const Points& points);
     std::size_t nearestSegment(const gk_Segments& outline, const gkVector<2>& p);
     const InsideIndex* insideIndexWhenAsked(const gk_Segments& outline, double rayLength);
 
@@ -99,17 +101,20 @@ private:
     std::shared_ptr<const InsideIndex> inside_;
     std::shared_ptr<const gk_SegmentCells> cells_;
     std::shared_ptr<const gk_VertexRuns> runs_;
+    std::shared_ptr<const gk_OuterVertices> outer_;
     gk_VertexCells vertexCells_;
     std::optional<gk_Box> ownBox_;
     std::uint32_t asked_ = 0;
     std::uint32_t askedVertices_ = 0;
     std::uint32_t askedInside_ = 0;
     std::uint32_t askedDirections_ = 0;
+    std::uint32_t askedBoxes_ = 0;
     bool hasAnswered_ = false;
     bool treeTried_ = false;
     bool cellsTried_ = false;
     bool crowdTried_ = false;
     bool vertexTreeTried_ = false;
+    bool outerTried_ = false;
 };
 
 #endif
