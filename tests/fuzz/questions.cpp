@@ -29,9 +29,34 @@ template <class Shape, class Ask> Question<Shape> question(const char* name, Ask
     return {name, [ask](const Shape& shape) { return answer([&] { return ask(shape); }); }};
 }
 
-template <class Shape> Question<Shape> keptOne(Source& source, const std::vector<Kept<Shape>>& all) {
-    const Kept<Shape>& kept = all[source.below(all.size())];
-    return {kept.name, kept.ask};
+// The answer of a question that answers refusals, or throws them.
+template <class Shape> Answer answered(const std::function<Answer(const Shape&)>& ask, const Shape& shape) {
+    try {
+        return ask(shape);
+    } catch (...) {
+        Answer refused;
+        refused.error = currentError();
+        return refused;
+    }
+}
+
+// Where no two vertices differ the exact circle stays the last one that there was.
+bool hasExactCircle(const gkContour& contour) {
+    return gkContour(contour.points(), true, 0).diameter(gkContourDefs::eExact) > 0.0;
+}
+
+template <class Shape, class Base>
+void add(const std::vector<Kept<Base>>& all, bool withExactCircle, std::vector<Question<Shape>>& questions) {
+    for (const Kept<Base>& kept : all) {
+        if (kept.name == "encloseCircle(eExact)" && !withExactCircle) continue;
+        if (kept.name == "centerOfMass(true)") continue; // only the first answer tells it with holes
+        questions.push_back({kept.name, [ask = kept.ask](const Shape& s) { return answered<Base>(ask, s); }});
+    }
+}
+
+template <class Shape> Question<Shape> keptOne(Source& source, const Shape& like) {
+    const std::vector<Question<Shape>> all = fuzz::keptQuestions(like);
+    return all[source.below(all.size())];
 }
 
 } // namespace
@@ -75,7 +100,7 @@ Question<gkContour> contourQuestion(Source& source, const gkContour& like) {
         return question<C>("extremalVertexIndex", [=](const C& c) { return c.extremalVertexIndex(angle); });
     }
     default:
-        return keptOne(source, keptOfContours());
+        return keptOne(source, like);
     }
 }
 
@@ -101,12 +126,8 @@ Question<gkRegion> regionQuestion(Source& source, const gkRegion& like) {
         const Question<gkContour> asked = contourQuestion(source, like);
         return {asked.name, [=](const R& r) { return asked.ask(r); }};
     }
-    default: {
-        const Question<R> asked = keptOne(source, keptOfRegions());
-        // Only the first answer tells the centre with holes.
-        if (asked.name != "centerOfMass(true)") return asked;
-        return question<R>("area", [=](const R& r) { return r.area(holes); });
-    }
+    default:
+        return keptOne(source, like);
     }
 }
 
@@ -127,13 +148,28 @@ Question<gkRegionSet> setQuestion(Source& source, const gkRegionSet& like) {
         const gkXform<2> xform = xformFrom(source);
         return question<S>("encloseRect", [=](const S& s) { return s.encloseRect(xform); });
     }
-    default: {
-        const Question<S> asked = keptOne(source, keptOfSets());
-        // Regions with holes among them tell their centre only once.
-        if (asked.name != "centerOfMass(true)") return asked;
-        return question<S>("area", [=](const S& s) { return s.area(holes); });
+    default:
+        return keptOne(source, like);
     }
-    }
+}
+
+std::vector<Question<gkContour>> keptQuestions(const gkContour& like) {
+    std::vector<Question<gkContour>> all;
+    add(keptOfContours(), hasExactCircle(like), all);
+    return all;
+}
+
+std::vector<Question<gkRegion>> keptQuestions(const gkRegion& like) {
+    std::vector<Question<gkRegion>> all;
+    add(keptOfContours(), hasExactCircle(like), all);
+    add(keptOfRegions(), true, all);
+    return all;
+}
+
+std::vector<Question<gkRegionSet>> keptQuestions(const gkRegionSet&) {
+    std::vector<Question<gkRegionSet>> all;
+    add(keptOfSets(), true, all);
+    return all;
 }
 
 } // namespace fuzz

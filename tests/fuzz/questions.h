@@ -6,6 +6,7 @@
 #include "tests/support/answer.h"
 
 #include <functional>
+#include <vector>
 
 class gkContour;
 class gkRegion;
@@ -23,6 +24,11 @@ template <class Shape> struct Question {
 Question<gkContour> contourQuestion(Source& source, const gkContour& like);
 Question<gkRegion> regionQuestion(Source& source, const gkRegion& like);
 Question<gkRegionSet> setQuestion(Source& source, const gkRegionSet& like);
+
+// All of those whose results are kept.
+std::vector<Question<gkContour>> keptQuestions(const gkContour& like);
+std::vector<Question<gkRegion>> keptQuestions(const gkRegion& like);
+std::vector<Question<gkRegionSet>> keptQuestions(const gkRegionSet& like);
 
 } // namespace fuzz
 

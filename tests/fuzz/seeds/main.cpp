@@ -53,10 +53,10 @@ void writeSets() {
 
 // Steps in any order; the first byte is the class.
 void writeTwins() {
-    for (std::uint8_t seed = 0; seed < 12; ++seed) {
+    for (std::uint8_t seed = 0; seed < 40; ++seed) {
         gen::Random random(seed);
         Bytes bytes = {seed};
-        for (int i = 0; i < 160; ++i) bytes.push_back(static_cast<std::uint8_t>(random.next()));
+        for (int i = 0; i < 399; ++i) bytes.push_back(static_cast<std::uint8_t>(random.next()));
         write("shape_twin", std::to_string(seed), bytes);
     }
 }
