@@ -71,7 +71,9 @@ bool gk_VertexCells::holds(double tolerance) const {
 
 std::vector<int> gk_VertexCells::near(const std::vector<gkVector<2>>& points, const gk_VertexTree* tree,
                                       const gkVector<2>& p, double tolerance) {
-    const bool isTreeEnough = tree != nullptr && gk_IsModerate(p) && tolerance <= kGreatestCoordinate;
+    // Squares of lesser distances lose bits: what lies beyond a tiny tolerance may come out within it.
+    const bool isOrdinary = tolerance * tolerance >= kShortestSquare && tolerance <= kGreatestCoordinate;
+    const bool isTreeEnough = tree != nullptr && gk_IsModerate(p) && isOrdinary;
     if (isTreeEnough && holds(tolerance)) {
         Block block(p, tolerance);
         // Nearer than the tolerance as it is computed is nearer than a little more.

@@ -136,6 +136,22 @@ TEST(NearestSearch, TreeFindsTheVerticesWithinATolerance) {
     });
 }
 
+// The square of the vertex's distance is 2.4 times the least double and rounds to 2 of them, so the distance
+// comes out below the tolerance that the vertex lies beyond.
+TEST(NearestSearch, VertexThatUnderflowBringsWithinATinyToleranceIsFound) {
+    const Points points = {{3.4434e-162, 0}, {0, 9e-162}, {9e-162, 9e-162}};
+    const gkVector<2> p(0, 0);
+    const double tolerance = 3.3e-162;
+    ASSERT_LT(points[0].distance(p), tolerance);
+    ASSERT_GT(points[0].x(), tolerance);
+    const auto tree = gk_VertexTree::of(points);
+    ASSERT_TRUE(tree);
+    gk_VertexCells cells;
+    EXPECT_EQ(std::vector<int>{0}, oracle::vertexIndex(points, p, tolerance));
+    EXPECT_EQ(std::vector<int>{0}, cells.near(points, &*tree, p, tolerance));
+    EXPECT_EQ(std::vector<int>{0}, cells.near(points, &*tree, p, tolerance)) << "asked again";
+}
+
 TEST(NearestSearch, TreesRefuseNumbersBeyondTheirBounds) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     for (const gkVector<2>& bad : {gkVector<2>(nan, 0), gkVector<2>(0, 2e140), gkVector<2>(-INFINITY, 0)}) {
