@@ -42,7 +42,7 @@ void askEverything(const gkRegion& region) {
         answer([&] { return region.gkContour::closestPoint(place, false); });
         answer([&] { return region.closestVertexIndex(place); });
         answer([&] { return region.inside(place, false); });
-        answer([&] { return region.inside(region.points()[i], false); });
+        answer([&] { return region.inside(region.points()[static_cast<std::size_t>(i)], false); });
         answer([&] { return region.intersections(gkLineSeg(place, {50, 70}), i % 2 == 0); });
     }
     answer([&] { return region.intersections(gkContour({{0, 0}, {9, 0}, {0, 9}}, true, 0)); });
