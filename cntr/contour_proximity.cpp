@@ -3,6 +3,7 @@
 #include "cntr/measures.h"
 #include "cntr/one_thread.h"
 #include "cntr/region.h"
+#include "cntr/search/nearest.h"
 #include "cntr/search/outline_search.h"
 #include "cntr/segment_cache.h"
 
@@ -29,14 +30,16 @@ const std::vector<bool>& gkContour::validLine() const {
 gkVector<2> gkContour::closestPoint(const gkVector<2>& p, bool verticesOnly) const {
     const gk_OneThread here(*this);
     checkEmptyContour();
-    if (verticesOnly) return value_.points[search().nearestVertex(value_.points, isClosed(), p)];
+    if (verticesOnly) return value_.points[static_cast<std::size_t>(gkContour::closestVertexIndex(p))];
     return search().nearestPoint(gk_Segments(value_.points, isClosed()), p);
 }
 
 long gkContour::closestVertexIndex(const gkVector<2>& p) const {
     const gk_OneThread here(*this);
     checkEmptyContour();
-    return gk_IndexAs<long>(search().nearestVertex(value_.points, isClosed(), p));
+    return gk_IndexAs<long>(gk_OutlineSearch::isNeededFor(value_.points)
+                                ? search().nearestVertex(value_.points, isClosed(), p)
+                                : gk_NearestVertex(value_.points, p));
 }
 
 double gkContour::distToPoint(const gkVector<2>& p, bool verticesOnly) const {
