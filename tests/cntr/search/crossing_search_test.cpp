@@ -128,6 +128,24 @@ TEST(CrossingSearch, CandidatesAreOneOfEachKindAndNoneWhereAllAreParallel) {
     EXPECT_EQ(2U, candidates({{0, 0}, {1, 2}, {3, 1}, {inf, 3}}).size());
 }
 
+// A segment beyond the tree's bounds is held against every one, wherever the one it meets stands in the list.
+TEST(CrossingSearch, AVastSegmentMeetsTheOnlyOneItCrosses) {
+    const gk_CrossingTest query(gkLineSeg({-1e145, 0.5}, {1e145, 0.5}), false);
+    for (std::size_t crossed = 0; crossed + 1 < 64; ++crossed) {
+        Points points;
+        for (std::size_t i = 0; i < 64; ++i)
+            points.emplace_back(static_cast<double>(i % 2), i <= crossed ? 0.0 : 1.0);
+        const gk_Segments outline(points, false);
+        const auto tree = gk_SegmentTree::of(outline);
+        ASSERT_TRUE(tree);
+        for (const std::size_t asked : {0, 31, 62}) {
+            std::size_t met = asked;
+            EXPECT_TRUE(gk_MeetsAny(outline, *tree, query, met)) << crossed << ' ' << asked;
+            EXPECT_EQ(crossed, met);
+        }
+    }
+}
+
 TEST(CrossingSearch, TreeKnowsWhetherASegmentMeetsAny) {
     search::each(12, [](const Points& points, std::uint64_t seed) {
         if (points.size() < 2) return;

@@ -116,6 +116,35 @@ TEST(InsideSearch, TreeSendsTheRayWhereThePlainScanDoes) {
     });
 }
 
+// The first gap that is wide at all, near the x direction, where directions are first known by a series: by how
+// little it is wide, and whether the search stops within it and goes on from there, must not matter.
+TEST(InsideSearch, TreeFindsAGapThatIsWideByAHair) {
+    constexpr std::size_t kCount = 2000;
+    const double step = std::acos(-1.0) / static_cast<double>(kCount);
+    const gkVector<2> point(0.0, 0.0);
+    for (double before = 0.0005; before < 0.03; before += 0.0004) {
+        for (const double more : {1e-11, 1e-8, 0.4 * step}) {
+            std::vector<double> angles;
+            for (double angle = before; angle > 0.0; angle -= 0.6 * step) angles.push_back(angle);
+            const double after = before + step + more;
+            const double rest = (6.28 - after) / static_cast<double>(kCount - angles.size());
+            for (double angle = after; angles.size() < kCount; angle += rest) angles.push_back(angle);
+            Points points;
+            for (const double angle : angles)
+                points.emplace_back(50.0 * std::cos(angle), 50.0 * std::sin(angle));
+
+            const gk_Segments outline(points, true);
+            const auto tree = gk_SegmentTree::of(outline);
+            ASSERT_TRUE(tree);
+            const auto fast = gk_RayDirection(outline, *tree, point);
+            ASSERT_TRUE(fast);
+            EXPECT_NEAR(before + (step + more) / 2.0, std::atan2(fast->y(), fast->x()), 1e-14)
+                << before << ' ' << more;
+            EXPECT_EQ(answer([&] { return *gk_RayDirection(outline, point); }), answer([&] { return *fast; }));
+        }
+    }
+}
+
 TEST(InsideSearch, RayOfFarCoordinatesIsNotCertified) {
     // At 1e10 a crossing is computed some 1e-6 off its segments, and the plain count misses some.
     const gk_InsideCertificate certificate(4, {1e10, 0}, 2e10, {0, 0, 1e10, 1e10});
