@@ -193,8 +193,10 @@ TEST(ContourArchive, AbsurdCountIsRefusedBeforeMemoryIsTaken) {
     EXPECT_THROW(load(withHeader(atOffset(kVersion1, 8, "ffffffff")), contour), gkArchive::CountTooLarge);
 }
 
-TEST(ContourArchive, NegativeCachedVectorSizeIsRefused) {
+TEST(ContourArchive, NegativeCachedVectorSizeIsRefusedAndZeroIsNot) {
     gkContour contour;
+    load(withHeader(atOffset(kVersion1, 44, "00000000")), contour);
+    EXPECT_EQ(0, contour.cachedVectorSize());
     EXPECT_THROW(load(withHeader(atOffset(kVersion1, 44, "ffffffff")), contour), gkArchive::BadValue);
 }
 

@@ -123,6 +123,15 @@ TEST(RegionArchive, Version0IsReadOpenInsideClosedOutsideWithoutLabelAndHoles) {
     EXPECT_TRUE(plain() == region);
 }
 
+TEST(RegionArchive, ACachedVectorSizeOfZeroIsRead) {
+    for (const std::string& record :
+         {atOffset(kPlain, kContourSize, "00000000"), atOffset(kVersion0, kSizeOfVersion0, "00000000")}) {
+        gkRegion region;
+        load(withHeader(record), region);
+        EXPECT_EQ(0, region.cachedVectorSize());
+    }
+}
+
 TEST(RegionArchive, Version0IsWrittenByteForByte) {
     OpenedRegion region;
     region = OpenedRegion(plain().points());

@@ -12,6 +12,7 @@
 
 namespace {
 
+using testing::ElementsAre;
 using testing::ElementsAreArray;
 
 gkRegion region(const std::string& text) { return gkRegion(points(text)); }
@@ -89,6 +90,19 @@ TEST(RegionRepair, VerticesNearerThanAMillionthAreTheSameWhereLoopsAreCutAndJoin
     EXPECT_EQ(1u, gk_CutLoops(apart).size());
     EXPECT_EQ(2u,
               gk_JoinLoops({{knot, {4, 2}, {4, 0}}, {knot + gkVector<2>(1.1e-6, 0), {0, 0}, {0, 2}}}).size());
+}
+
+// Two vertices are near the knot and not near each other: the one in the cell further left counts, though it
+// comes later.
+TEST(RegionRepair, OfVerticesNearAKnotTheFirstCellsCounts) {
+    const gkVector<2> knot(0, 0);
+    const gkVector<2> left(-0.9e-6, 0);
+    const gkVector<2> right(0.9e-6, 0);
+    const std::vector<gk_Loop> cut = gk_CutLoops({knot, {4, 2}, right, {-3, 2}, left, {-3, -2}});
+    EXPECT_THAT(cut, ElementsAre(gk_Loop{knot, {4, 2}}, gk_Loop{left, {-3, -2}}, gk_Loop{right, {-3, 2}}));
+    const std::vector<gk_Loop> joined =
+        gk_JoinLoops({{knot, {4, 2}, {4, 0}}, {right, {-3, 2}, left, {-3, -2}}});
+    EXPECT_THAT(joined, ElementsAre(gk_Loop{knot, {4, 2}, {4, 0}, left, {-3, -2}, right, {-3, 2}}));
 }
 
 TEST(RegionRepair, ALoopInsideAnotherIsDroppedFromTheOuterHullAlone) {

@@ -196,6 +196,12 @@ TEST(RegionSetArchive, AnUnknownFormOfTheListHasNoTextAndNumber0) {
     EXPECT_EQ(0, error.number());
 }
 
+TEST(RegionSetArchive, ACachedVectorSizeOfZeroIsRead) {
+    gkRegionSet set;
+    load(withHeader(atOffset(kEmpty, 7, "00000000")), set);
+    EXPECT_EQ(0, set.cachedVectorSize());
+}
+
 TEST(RegionSetArchive, AbsurdNumbersAreNamedErrors) {
     refusal<gkArchive::CountTooLarge>(atOffset(kVersion1, 3, "ffffffff"));
     refusal<gkArchive::BadReference>(atOffset(kVersion1, 7, "05000000"));
