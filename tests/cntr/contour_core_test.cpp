@@ -99,7 +99,9 @@ TEST(ContourCore, ValuesBeyond32BitsAreRefusedNeverCut) {
     contour.cachedVectorSize(2147483647);
     EXPECT_EQ(2147483647, contour.cachedVectorSize());
     if constexpr (sizeof(long) > 4) {
+        EXPECT_THROW(contour.label(4294967295ul + 1), gkContourDefs::BadParams);
         EXPECT_THROW(contour.label(ULONG_MAX), gkContourDefs::BadParams);
+        EXPECT_THROW(contour.cachedVectorSize(2147483647l + 1), gkContourDefs::BadParams);
         EXPECT_THROW(contour.cachedVectorSize(LONG_MAX), gkContourDefs::BadParams);
         EXPECT_THROW(gkContour(points(kTriangle), true, ULONG_MAX), gkContourDefs::BadParams);
         EXPECT_THROW(gkContour(polygonOf(kTriangle), ULONG_MAX), gkContourDefs::BadParams);

@@ -1,6 +1,7 @@
 // Whether a point lies in a region. Expected answers by hand: the ray's direction is the middle of the first
 // gap between vertex directions, counted from the x axis, that is wider than pi / n.
 #include "cntr/inside_count.h"
+#include "cntr/outline.h"
 #include "tests/support/regions.h"
 
 #include <gtest/gtest.h>
@@ -54,6 +55,15 @@ TEST(RegionInside, OfAnOutlineWithANotch) {
     EXPECT_TRUE(inside(notched, {5, 3}));
     EXPECT_TRUE(inside(notched, {1, 8}));
     EXPECT_TRUE(inside(notched, {9, 8}));
+}
+
+// A hair from the left side of a U nothing is known without a ray. The first wide gap is that between the
+// vertices at 1 and at 59 degrees, and the ray leaves the left arm and passes the right one: three crossings.
+TEST(RegionInside, ThreeCrossingsAreAsOddAsOne) {
+    const char* const u = "0 0, 3 0, 3 5.05, 3 10, 2 10, 2 1, 1 1, 1 10, 0 10";
+    const gkVector<2> point(1e-9, 5);
+    EXPECT_TRUE(gk_Outline(points(u)).inside(point));
+    EXPECT_TRUE(inside(u, point));
 }
 
 TEST(RegionInside, OfAnOutlineThatCrossesItselfIsEvenOdd) {
