@@ -97,10 +97,17 @@ def report(verdicts):
     return rows["all"]["survived"]
 
 
+def is_wanted(mutant, globs):
+    names = (mutant.path, f"{mutant.path}:{mutant.line}")
+    return any(fnmatch.fnmatch(name, glob) for name in names for glob in globs)
+
+
 def main():
     parser = argparse.ArgumentParser(prog="./dev mutate", description=__doc__)
     parser.add_argument("--seconds", type=float, default=1500, help="to spend on mutants, from the first worker's start on")
-    parser.add_argument("--file", default="*", metavar="GLOB", help="only mutants of these files, or file:line")
+    parser.add_argument(
+        "--file", action="append", metavar="GLOB", help="only mutants of these files, or file:line; may be repeated"
+    )
     parser.add_argument("--seed", type=int, default=1, help="of the order in which mutants are taken")
     parser.add_argument("--workers", type=int, default=os.cpu_count() or 1, help="each has a copy of the tree")
     parser.add_argument("--rounds", default="0.1", help="the share of the random shapes that the tests try")
@@ -108,11 +115,7 @@ def main():
     options = parser.parse_args()
 
     everything = all_mutants()
-    mutants = [
-        m
-        for m in everything
-        if fnmatch.fnmatch(m.path, options.file) or fnmatch.fnmatch(f"{m.path}:{m.line}", options.file)
-    ]
+    mutants = [m for m in everything if is_wanted(m, options.file or ["*"])]
     if options.list:
         print(*mutants, f"{len(mutants)} mutants", sep="\n")
         return 0
