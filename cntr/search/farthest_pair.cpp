@@ -28,6 +28,9 @@ double greatestSquare(const gk_Box& a, const gk_Box& b) {
     return (dx * dx + dy * dy) * (1.0 + 0x1p-49);
 }
 
+// Noisy outlines, combs and lattices have up to eight pairs for each run near the hull. More come of runs with
+// long steps, such as a wide spiral's: then single vertices take less.
+constexpr std::size_t kFewPairs = 10;
 // From so many pairs of runs on, for each vertex, it is asked whether many vertices are at the same place.
 constexpr std::size_t kMostPairs = 8;
 
@@ -137,8 +140,11 @@ std::optional<gk_VertexPair> farthestOfPoints(const Points& points, const gk_Hul
 std::optional<gk_VertexPair> farthestOf(const Points& points, const gk_HullSieve& sieve, double slack,
                                         std::size_t most) {
     const gk_HullSieve::OuterRuns outer = sieve.outerRuns(slack);
-    return outer.areTelling ? farthestOfRuns(points, {}, sieve, outer, most)
-                            : farthestOfPoints(points, sieve, slack, most);
+    if (outer.areTelling) {
+        const std::size_t few = kFewPairs * outer.runs.size() + gk_HullSieve::kRun * gk_HullSieve::kRun;
+        if (const auto pair = farthestOfRuns(points, {}, sieve, outer, few)) return pair;
+    }
+    return farthestOfPoints(points, sieve, slack, most);
 }
 
 } // namespace
