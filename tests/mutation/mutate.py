@@ -81,6 +81,10 @@ class Run:
             self.last_killer[mutant.path] = verdict
 
 
+def share(part, whole):
+    return f"{100 * part / whole:.1f} %" if whole else "-"
+
+
 def report(verdicts):
     """The table by file; returns the number of survivors that no row explains."""
     rows = collections.defaultdict(collections.Counter)
@@ -88,12 +92,11 @@ def report(verdicts):
         kind = "killed" if "/" in verdict else verdict
         rows[mutant.path][kind] += 1
         rows["all"][kind] += 1
-    print(f"\n{'file':<40} {'killed':>7} {'known':>7} {'new':>7} {'score':>7}  not built")
+    print("\nkilled, known survivors, new ones; killed of all and of those that are not known; not built")
     for name in sorted(rows, key=lambda name: (name == "all", name)):
-        row = rows[name]
-        built = row["killed"] + row["known"] + row["survived"]
-        score = f"{100 * row['killed'] / built:.1f} %" if built else "-"
-        print(f"{name:<40} {row['killed']:>7} {row['known']:>7} {row['survived']:>7} {score:>7}  {row['not built']:>9}")
+        killed, known, new, broken = (rows[name][kind] for kind in ("killed", "known", "survived", "not built"))
+        shares = share(killed, killed + known + new), share(killed, killed + new)
+        print(f"{name:<40} {killed:>5} {known:>5} {new:>5} {shares[0]:>9} {shares[1]:>9} {broken:>5}")
     return rows["all"]["survived"]
 
 
