@@ -165,6 +165,26 @@ TEST(CrossingSearch, TreeKnowsWhetherASegmentMeetsAny) {
     });
 }
 
+// Boxes that are exactly the margin apart are near, also where the outline goes on by just that in each step.
+TEST(CrossingSearch, SegmentsAreCloseAtTheMarginInEveryDirection) {
+    const double margin = 0.25;
+    for (const gkVector<2>& step :
+         {gkVector<2>(margin, 0), gkVector<2>(-margin, 0), gkVector<2>(0, margin), gkVector<2>(0, -margin)}) {
+        Points points;
+        for (int i = 0; i < 64; ++i) points.push_back(step * i);
+        const gk_Segments outline(points, false);
+        const auto tree = gk_SegmentTree::of(outline);
+        ASSERT_TRUE(tree);
+        const auto close = gk_CloseSegments::of(outline, *tree, margin);
+        ASSERT_TRUE(close);
+        for (std::size_t k = 0; k + 2 < outline.size(); ++k) {
+            bool isMet = false;
+            close->visitAround(k, [&](std::size_t j) { isMet = isMet || j == k + 2; });
+            EXPECT_TRUE(isMet) << step << k;
+        }
+    }
+}
+
 // The plain answer: all pairs of boxes. A box grown by a margin may round to either side of another.
 TEST(CrossingSearch, CloseSegmentsAreThoseWhoseBoxesAreNear) {
     search::each(6, [](const Points& points, std::uint64_t seed) {

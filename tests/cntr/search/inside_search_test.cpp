@@ -78,6 +78,20 @@ TEST(InsideSearch, AScanTakesTheBoxOfModerateNumbersOnly) {
     }
 }
 
+// Where a ray may be twice 1.2e7 long, its crossings are not exact enough, wherever the origin lies.
+TEST(InsideSearch, AScanOfAnOutlineTooWideForExactRaysKnowsNothing) {
+    for (const bool isUpright : {false, true}) {
+        const auto inside = [&](double reach) {
+            Points points = {{-reach, -5}, {reach, -5}, {reach, 5}, {-reach, 5}};
+            if (isUpright)
+                for (gkVector<2>& p : points) p = gkVector<2>(p.y(), p.x());
+            return gk_ScanInside(gk_Segments(points, true), {1, 1}).inside;
+        };
+        EXPECT_EQ(gk_Inside::eInside, inside(6e5));
+        EXPECT_EQ(gk_Inside::eUnknown, inside(6e6));
+    }
+}
+
 TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
     Counts counts;
     search::each(12, [&](const Points& points, std::uint64_t seed) {
