@@ -54,6 +54,8 @@ ctest --test-dir "$linux" -N -V -L linux_only | sed -n 's/^.*Test command: \([^ 
         examples_demo_test) why="runs the demo, which needs OpenCV" ;;
         fuzz_replay_demo_options) why="reads the command line of the demo, which needs OpenCV" ;;
         hostile_test) why="counts memory by an operator new of its own, which a DLL would not use" ;;
+        memory_test) why="lets requests for memory fail by an operator new of its own, which a DLL would not use" ;;
+        python*) why="changes sources to see whether tests notice, and needs no library" ;;
         platform_cairo_test) why="draws with Cairo" ;;
         platform_trig_accuracy) why="compares with MPFR" ;;
         *) echo "$program: has the label linux_only and no reason here" && exit 1 ;;
