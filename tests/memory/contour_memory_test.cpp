@@ -1,8 +1,8 @@
 // A contour that runs short of memory. Oracles: the contour as it was, and a twin that never met a shortage.
 #include "platform/core/archive/archive_memory.h"
 #include "platform/display/recording_tablet.h"
-#include "tests/memory/shapes.h"
 #include "tests/memory/sweep.h"
+#include "tests/memory/twins.h"
 
 #include <memory>
 #include <string>
@@ -14,12 +14,12 @@ using memory::expectAnswersOfATwin;
 using Owned = std::unique_ptr<gkContour>;
 
 const Points& vertices() {
-    static const Points all = memory::star(600);
+    static const Points all = starOutline(600, 40.0);
     return all;
 }
 
 const gkContour& other() {
-    static const gkContour contour(memory::star(100, {30.0, 0.0}), true, 0);
+    static const gkContour contour(starOutline(100, 40.0, {30.0, 0.0}), true, 0);
     return contour;
 }
 
@@ -132,7 +132,7 @@ template <class Change> long sweepChange(Change change) {
 }
 
 gkArchiveMemory archived() {
-    gkContour contour(memory::eight(80), true, 4);
+    gkContour contour(eightOutline(80), true, 4);
     gkArchiveMemory archive;
     archive || contour;
     archive.finish();
@@ -153,7 +153,7 @@ TEST(ContourMemory, AFailedQuestionLeavesEveryAnswerRight) {
 }
 
 TEST(ContourMemory, AFailedChangeLeavesTheFormerValue) {
-    EXPECT_GT(sweepChange([](gkContour& contour) { contour.points(memory::eight(70)); }), 0);
+    EXPECT_GT(sweepChange([](gkContour& contour) { contour.points(eightOutline(70)); }), 0);
     EXPECT_GT(sweepChange([](gkContour& contour) { contour = other(); }), 0);
 }
 
@@ -196,7 +196,7 @@ TEST(ContourMemory, AFailedSaveLeavesTheContour) {
 }
 
 TEST(ContourMemory, AFailedLoadLeavesTheFormerValueOrTheWholeNewOne) {
-    const gkContour loaded(memory::eight(80), true, 4);
+    const gkContour loaded(eightOutline(80), true, 4);
     EXPECT_GT(sweep([] { return fresh(); },
                     [](const Owned& contour) {
                         gkArchiveMemory archive = archived();

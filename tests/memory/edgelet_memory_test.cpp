@@ -2,8 +2,8 @@
 // one another: the shape is whole enough to be asked, set anew, and destroyed.
 #include "platform/core/archive/archive_memory.h"
 #include "tests/ch_core/edgelets.h"
-#include "tests/memory/shapes.h"
 #include "tests/memory/sweep.h"
+#include "tests/memory/twins.h"
 
 #include <memory>
 
@@ -13,7 +13,7 @@ using memory::expectAnswersOfATwin;
 
 std::vector<gkEdgelet> edgelets(int count) {
     std::vector<gkEdgelet> list;
-    for (const gkVector<2>& place : memory::star(count)) list.emplace_back(place, 9, gkAngle8(3));
+    for (const gkVector<2>& place : starOutline(count, 40.0)) list.emplace_back(place, 9, gkAngle8(3));
     return list;
 }
 
@@ -61,15 +61,16 @@ template <class Shape> std::vector<unsigned char> bytesOf(Shape& shape) {
 
 TEST(EdgeletMemory, AContourIsUsableAfterAFailedChange) {
     sweepChange(freshContour, [](EdgeletContour& contour) { contour.data(edgelets(70)); });
-    sweepChange(freshContour,
-                [](EdgeletContour& contour) { static_cast<gkContour&>(contour).points(memory::star(70)); });
+    sweepChange(freshContour, [](EdgeletContour& contour) {
+        static_cast<gkContour&>(contour).points(starOutline(70, 40.0));
+    });
     sweepChange(freshContour, [](EdgeletContour& contour) { contour = *freshContour(); });
 }
 
 TEST(EdgeletMemory, ARegionIsUsableAfterAFailedChange) {
     sweepChange(freshRegion, [](EdgeletRegion& region) { region.data(edgelets(70)); });
     sweepChange(freshRegion,
-                [](EdgeletRegion& region) { static_cast<gkContour&>(region).points(memory::star(70)); });
+                [](EdgeletRegion& region) { static_cast<gkContour&>(region).points(starOutline(70, 40.0)); });
     sweepChange(freshRegion, [](EdgeletRegion& region) { region = *freshRegion(); });
     sweepChange(freshRegion, [](EdgeletRegion& region) {
         region.holes({gkPtrHandle_const<EdgeletRegion>(freshRegion().release())});

@@ -4,8 +4,8 @@
 #include "platform/core/shapes/convex_hull.h"
 #include "platform/display/recording_tablet.h"
 #include "platform/display/svg_tablet.h"
-#include "tests/memory/shapes.h"
 #include "tests/memory/sweep.h"
+#include "tests/memory/twins.h"
 #include "tests/support/regions.h"
 
 #include <memory>
@@ -62,7 +62,7 @@ TEST(GraphMemory, AFailedSaveLosesNothing) {
 }
 
 TEST(GraphMemory, AFailedDrawingKeepsWhatWasDrawn) {
-    const gkContour contour(memory::star(60), true, 0);
+    const gkContour contour(starOutline(60, 40.0), true, 0);
     const auto drawIn = [&](gkUITablet& tablet) {
         contour.draw(tablet, gkContourDefs::eDrawOutline, gkColor::red(), gkUITablet::eOverlayLayer);
     };
@@ -87,7 +87,7 @@ TEST(GraphMemory, AFailedDrawingKeepsWhatWasDrawn) {
 }
 
 TEST(GraphMemory, FreeFunctionsLoseNothing) {
-    const Points outline = memory::star(300);
+    const Points outline = starOutline(300, 40.0);
     EXPECT_GT(sweep(
                   nothing, [&](int) { gfConvexHull(outline); }, noCheck),
               0);

@@ -1,7 +1,7 @@
 // A region that runs short of memory. Oracles: the region as it was, and a twin that never met a shortage.
 #include "platform/core/archive/archive_memory.h"
-#include "tests/memory/shapes.h"
 #include "tests/memory/sweep.h"
+#include "tests/memory/twins.h"
 #include "tests/support/regions.h"
 
 #include <memory>
@@ -14,13 +14,14 @@ using memory::expectAnswersOfATwin;
 using Owned = std::unique_ptr<gkRegion>;
 
 Holes twoHoles() {
-    return {Shared(new gkRegion(memory::star(60, {0.0, 0.0}))), Shared(new gkRegion(square(-3.0, 8.0, 2.0)))};
+    return {Shared(new gkRegion(starOutline(60, 40.0, {0.0, 0.0}))),
+            Shared(new gkRegion(square(-3.0, 8.0, 2.0)))};
 }
 
 // An outline of 600 vertices that crosses itself when it is `crossing`, with holes when it is not.
 Owned fresh(bool crossing) {
-    if (crossing) return std::make_unique<gkRegion>(memory::eight(60));
-    Points large = memory::star(600);
+    if (crossing) return std::make_unique<gkRegion>(eightOutline(60));
+    Points large = starOutline(600, 40.0);
     for (gkVector<2>& vertex : large) vertex = 3.0 * vertex;
     Owned region = std::make_unique<gkRegion>(large);
     region->holes(twoHoles());
@@ -155,10 +156,10 @@ TEST(RegionMemory, AFailedConstructionLosesNothing) {
     for (const gkContourDefs::IntersectionMode mode :
          {gkContourDefs::eKeepIntersections, gkContourDefs::eRegularize, gkContourDefs::eOuterHull}) {
         EXPECT_GT(sweep(
-                      nothing, [&](int) { gkRegion(memory::eight(60), mode); }, noCheck),
+                      nothing, [&](int) { gkRegion(eightOutline(60), mode); }, noCheck),
                   0);
         EXPECT_GT(sweep(
-                      nothing, [&](int) { gkRegion(gkPolygon(memory::eight(60)), mode); }, noCheck),
+                      nothing, [&](int) { gkRegion(gkPolygon(eightOutline(60)), mode); }, noCheck),
                   0);
         EXPECT_GT(sweep(
                       nothing, [&](int) { gkRegion(*fresh(true), mode); }, noCheck),

@@ -1,7 +1,7 @@
 // A set of regions that runs short of memory. Oracles: the set as it was, and a twin that never met a shortage.
 #include "platform/core/archive/archive_memory.h"
-#include "tests/memory/shapes.h"
 #include "tests/memory/sweep.h"
+#include "tests/memory/twins.h"
 #include "tests/support/regions.h"
 
 #include <memory>
@@ -21,7 +21,7 @@ Regions members(bool crossing) {
         list.push_back(sharedSquare(3.0 * (i % 8), 3.0 * static_cast<double>(i / 8), 2.0));
     if (crossing) {
         list.push_back(sharedSquare(1.0, 1.0, 0.5 + 2.0));
-        list.push_back(Shared(new gkRegion(memory::eight(60))));
+        list.push_back(Shared(new gkRegion(eightOutline(60))));
     }
     return list;
 }

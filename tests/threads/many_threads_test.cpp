@@ -1,9 +1,9 @@
 // Many threads at once, each with shapes of its own that share what copies share. Oracle: the answers of one
 // thread; a race detector watches (./dev check threads).
 #include "ch_core/cntrtmpl.h"
-#include "tests/gen/random.h"
 #include "tests/support/archived.h"
 #include "tests/support/kept_results.h"
+#include "tests/support/outlines.h"
 #include "tests/support/regions.h"
 
 #include <gtest/gtest.h>
@@ -21,24 +21,6 @@ void onManyThreads(const std::function<void(int)>& work) {
     std::vector<std::thread> threads;
     for (int i = 0; i < kThreads; ++i) threads.emplace_back(work, i);
     for (std::thread& thread : threads) thread.join();
-}
-
-Points star(int count, double radius) {
-    gen::Random random(11);
-    Points outline;
-    for (int i = 0; i < count; ++i)
-        outline.push_back(gkVector<2>(radius + random.unit(), gkRadian(6.283185307179586 * i / count)));
-    return outline;
-}
-
-Points eight() {
-    Points outline;
-    for (int i = 0; i < 60; ++i) {
-        const double t = 6.283185307179586 * (i + 0.25) / 60;
-        outline.emplace_back(30.0 * gkVector<2>(1.0, gkRadian(t)).y(),
-                             20.0 * gkVector<2>(1.0, gkRadian(2.0 * t)).y());
-    }
-    return outline;
 }
 
 std::vector<Answer> contourAnswers(const gkContour& contour) {
@@ -72,28 +54,28 @@ std::vector<Answer> regionAnswers(const gkRegion& region) {
 } // namespace
 
 TEST(ManyThreads, AskContoursOfTheirOwn) {
-    const std::vector<Answer> expected = contourAnswers(gkContour(star(600, 40), true, 0));
+    const std::vector<Answer> expected = contourAnswers(gkContour(starOutline(600, 40), true, 0));
     onManyThreads([&](int) {
-        const gkContour own(star(600, 40), true, 0);
+        const gkContour own(starOutline(600, 40), true, 0);
         for (int i = 0; i < 3; ++i) EXPECT_EQ(expected, contourAnswers(own));
     });
 }
 
 TEST(ManyThreads, AskCopiesThatShareIndexesAndAHull) {
-    gkContour original(star(600, 40), true, 0);
+    gkContour original(starOutline(600, 40), true, 0);
     const std::vector<Answer> expected = contourAnswers(original);
     std::vector<gkContour> copies(kThreads, original);
     onManyThreads([&](int i) {
         gkContour& own = copies[static_cast<std::size_t>(i)];
         EXPECT_EQ(expected, contourAnswers(own));
         const gkContour further(own);
-        own.points(star(100, 20)); // lets go of what is shared
+        own.points(starOutline(100, 20)); // lets go of what is shared
         EXPECT_EQ(expected, contourAnswers(further));
     });
 }
 
 TEST(ManyThreads, AskCopiesThatShareHolesAndRepairedForms) {
-    for (const Points& outline : {star(600, 120), eight()}) {
+    for (const Points& outline : {starOutline(600, 120), eightOutline(60)}) {
         gkRegion original(outline);
         const Shared hole = sharedSquare(20, 1, 0.25);
         original.holes({hole});
@@ -134,7 +116,7 @@ TEST(ManyThreads, AskSetsWithMembersOfTheirOwn) {
 TEST(ManyThreads, LoadAndSaveRecordsOldAndNew) {
     const std::string old = "00 00 00 00 02000000 000000000000f03f 00000000000000c0"
                             "0000000000000840 9a9999999999b93f 7b 05000000 00";
-    gkPtrHandle<gkRegion> region(new gkRegion(eight()));
+    gkPtrHandle<gkRegion> region(new gkRegion(eightOutline(60)));
     region->holes({sharedSquare(20, 1, 0.25)});
     gkArchiveMemory out;
     out || region;
@@ -147,7 +129,7 @@ TEST(ManyThreads, LoadAndSaveRecordsOldAndNew) {
             gkPtrHandle<gkRegion> loaded;
             gkArchiveMemory in(out.bytes());
             in || loaded;
-            EXPECT_EQ(eight(), loaded->points());
+            EXPECT_EQ(eightOutline(60), loaded->points());
             EXPECT_EQ(1U, loaded->holes().size());
             gkArchiveMemory again;
             again || loaded;
@@ -159,7 +141,7 @@ TEST(ManyThreads, LoadAndSaveRecordsOldAndNew) {
 
 TEST(ManyThreads, CopyEdgeletShapesThatShareATransform) {
     std::vector<gkEdgelet> data;
-    for (const gkVector<2>& place : star(80, 30)) data.emplace_back(place, 9, gkAngle8(3));
+    for (const gkVector<2>& place : starOutline(80, 30)) data.emplace_back(place, 9, gkAngle8(3));
     const gkContourT<gkEdgelet> original(data);
     std::vector<gkContourT<gkEdgelet>> copies(kThreads, original);
     onManyThreads([&](int i) {

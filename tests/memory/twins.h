@@ -1,20 +1,16 @@
-// Shapes large enough for every index, and what they must still answer after a failure.
-#ifndef GK_TESTS_MEMORY_SHAPES_H
-#define GK_TESTS_MEMORY_SHAPES_H
+// What shapes must still answer after a failure.
+#ifndef GK_TESTS_MEMORY_TWINS_H
+#define GK_TESTS_MEMORY_TWINS_H
 
 #include "cntr/regionst.h"
 #include "tests/support/answer.h"
 #include "tests/support/kept_results.h"
+#include "tests/support/outlines.h"
 
 #include <gtest/gtest.h>
 #include <vector>
 
 namespace memory {
-
-// A star of so many vertices about a place, with a seeded noise in its radius of 40.
-Points star(int count, const gkVector<2>& center = {0.0, 0.0});
-// An outline of two loops that crosses itself in its middle.
-Points eight(int count);
 
 // A shape of equal value, which shares holes or regions with this one, has equal answers.
 void expectAnswersOfATwin(const gkContour& contour);
