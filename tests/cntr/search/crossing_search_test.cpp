@@ -138,7 +138,7 @@ TEST(CrossingSearch, AVastSegmentMeetsTheOnlyOneItCrosses) {
         const gk_Segments outline(points, false);
         const auto tree = gk_SegmentTree::of(outline);
         ASSERT_TRUE(tree);
-        for (const std::size_t asked : {0, 31, 62}) {
+        for (const std::size_t asked : {std::size_t{0}, std::size_t{31}, std::size_t{62}}) {
             std::size_t met = asked;
             EXPECT_TRUE(gk_MeetsAny(outline, *tree, query, met)) << crossed << ' ' << asked;
             EXPECT_EQ(crossed, met);
