@@ -5,9 +5,10 @@
 # lets it put comparisons and roots of several numbers into one instruction, and changes no result.
 #
 # Where the processor has fused instructions (-march=native), GCC 12 makes some from vectorised complex products even so;
-# -mno-fma takes them away.
+# -mno-fma takes them away, and -mno-avx512f those that AVX-512 has of its own.
 include(CheckCXXCompilerFlag)
 check_cxx_compiler_flag(-mno-fma GK_HAS_MNO_FMA)
+check_cxx_compiler_flag(-mno-avx512f GK_HAS_MNO_AVX512F)
 
 function(gk_compile_options target)
   target_compile_options(${target} PRIVATE
@@ -16,7 +17,8 @@ function(gk_compile_options target)
     -ffp-contract=off
     -fno-math-errno
     -fno-trapping-math
-    $<$<BOOL:${GK_HAS_MNO_FMA}>:-mno-fma>)
+    $<$<BOOL:${GK_HAS_MNO_FMA}>:-mno-fma>
+    $<$<BOOL:${GK_HAS_MNO_AVX512F}>:-mno-avx512f>)
   set_target_properties(${target} PROPERTIES
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
