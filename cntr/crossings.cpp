@@ -28,8 +28,8 @@ void append(const gk_Segments& outline, gk_SegmentTree::Range range, const gk_Cr
     }
 }
 
-void addCrossings(const gk_Segments& outline, gk_SegmentTree::Range range, const gk_CrossingTest& query,
-                  std::size_t most, std::size_t& count) {
+void countCrossings(const gk_Segments& outline, gk_SegmentTree::Range range, const gk_CrossingTest& query,
+                    std::size_t most, std::size_t& count) {
     gkVector<2> point;
     for (std::size_t k = range.begin; k < range.end && count < most; ++k)
         if (query.crosses(outline.first(k), outline.second(k), point)) ++count;
@@ -95,7 +95,7 @@ std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_Segme
 
 std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_CrossingTest& query, std::size_t most) {
     std::size_t count = 0;
-    addCrossings(outline, {0, outline.size()}, query, most, count);
+    countCrossings(outline, {0, outline.size()}, query, most, count);
     return count;
 }
 
@@ -106,7 +106,7 @@ std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_SegmentTree& 
     std::size_t count = 0;
     tree.any([&](const gk_Box& box) { return box.overlaps(query.box()) && !side.rejects(box); },
              [&](std::uint32_t run) {
-                 addCrossings(outline, tree.segmentsOf(run), query, most, count);
+                 countCrossings(outline, tree.segmentsOf(run), query, most, count);
                  return count == most;
              });
     return count;

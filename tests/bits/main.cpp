@@ -24,28 +24,13 @@ Without an option: runs everything, compares with the kept hashes and names what
 
 struct Options {
     std::string kept = GK_BITS_FOLDER;
-    bits::Part part;
+    Part part;
     bool list = false;
     bool write = false;
     bool oneShape = false;
     std::size_t shape = 0;
     std::string operation;
 };
-
-std::size_t number(const std::string& text) {
-    std::size_t used = 0;
-    const unsigned long value = std::stoul(text, &used);
-    if (used != text.size()) throw std::invalid_argument(text);
-    return value;
-}
-
-bits::Part part(const std::string& text) {
-    const std::size_t slash = text.find('/');
-    if (slash == std::string::npos) throw std::invalid_argument(text);
-    const bits::Part part{number(text.substr(0, slash)), number(text.substr(slash + 1))};
-    if (part.index >= part.count) throw std::invalid_argument(text);
-    return part;
-}
 
 // Throws std::invalid_argument or std::out_of_range for what it does not understand.
 Options options(int count, char** words) {
@@ -63,12 +48,12 @@ Options options(int count, char** words) {
         } else if (word == "--kept") {
             options.kept = next();
         } else if (word == "--part") {
-            options.part = part(next());
+            options.part = partIn(next());
         } else if (word == "--operation") {
             options.operation = next();
         } else if (word == "--shape") {
             options.oneShape = true;
-            options.shape = number(next());
+            options.shape = numberIn(next());
         } else {
             throw std::invalid_argument(word);
         }

@@ -3,6 +3,7 @@
 #define GK_TESTS_BITS_TABLE_H
 
 #include "tests/bits/world.h"
+#include "tests/support/part.h"
 
 #include <array>
 #include <cstddef>
@@ -16,15 +17,6 @@ namespace bits {
 
 constexpr std::size_t kBlocks = kShapes / kShapesInBlock;
 
-// The share i of n of the blocks: those whose number leaves i when it is divided by n.
-struct Part {
-    std::size_t index = 0;
-    std::size_t count = 1;
-
-    bool holds(std::size_t block) const { return block % count == index; }
-    bool isWhole() const { return count == 1; }
-};
-
 // What a block leaves in the file: enough to find it, while the total decides.
 using Blocks = std::array<std::uint16_t, kBlocks>;
 
@@ -34,7 +26,7 @@ struct Table {
     std::vector<std::uint16_t> shapes;           // all operations of one shape together
 };
 
-// Runs every operation over the part's shapes.
+// Runs every operation over the shapes of the part's blocks.
 Table run(const Part& part);
 
 // hashes.txt and blocks.txt in the folder. Both throw std::runtime_error for a file they cannot use.

@@ -1,5 +1,6 @@
 // Holds the library's answers to those of the plain definitions: bits, order, and the kind of errors.
 #include "tests/comparisons/operations.h"
+#include "tests/support/part.h"
 
 #include <cstdio>
 #include <exception>
@@ -26,28 +27,12 @@ output: operation, comparisons, those of them where the definition has an error,
 
 struct Options {
     std::uint64_t least = 1000;
-    std::uint64_t part = 0;
-    std::uint64_t parts = 1;
+    Part part;
     std::uint64_t seed = 0;
     bool oneSeed = false;
     bool list = false;
     std::vector<std::string> names;
 };
-
-std::uint64_t number(const std::string& text) {
-    std::size_t used = 0;
-    const std::uint64_t value = std::stoull(text, &used);
-    if (used != text.size()) throw std::invalid_argument(text);
-    return value;
-}
-
-void readPart(const std::string& text, Options& options) {
-    const std::size_t slash = text.find('/');
-    if (slash == std::string::npos) throw std::invalid_argument(text);
-    options.part = number(text.substr(0, slash));
-    options.parts = number(text.substr(slash + 1));
-    if (options.part >= options.parts) throw std::invalid_argument(text);
-}
 
 // Throws std::logic_error for what it does not understand.
 Options optionsOf(int count, char** words) {
@@ -59,11 +44,11 @@ Options optionsOf(int count, char** words) {
             return std::string(words[i]);
         };
         if (word == "--least") {
-            options.least = number(next());
+            options.least = numberIn(next());
         } else if (word == "--part") {
-            readPart(next(), options);
+            options.part = partIn(next());
         } else if (word == "--seed") {
-            options.seed = number(next());
+            options.seed = numberIn(next());
             options.oneSeed = true;
         } else if (word == "--list") {
             options.list = true;
@@ -116,9 +101,9 @@ void run(const Operation& operation, const Options& options, Tally& tally) {
         runSeed(operation, options.seed, tally);
         return;
     }
-    const std::uint64_t least = (options.least + options.parts - 1) / options.parts;
-    for (std::uint64_t seed = 1 + options.part; tally.comparisons() < least && !tally.differs();
-         seed += options.parts) {
+    const std::uint64_t least = (options.least + options.part.count - 1) / options.part.count;
+    for (std::uint64_t seed = 1 + options.part.index; tally.comparisons() < least && !tally.differs();
+         seed += options.part.count) {
         runSeed(operation, seed, tally);
     }
 }

@@ -1,5 +1,5 @@
 // A million vertices of the worst kinds: every question ends. Where a definition looks at all pairs an index or
-// a bound must spare it, or the test would take days. Oracle: what the outline's making tells.
+// a bound must spare it, or the test would not end soon. Oracle: what the outline's making tells.
 #include "cntr/region.h"
 #include "platform/core/archive/archive_memory.h"
 #include "tests/support/kept_results.h"
