@@ -11,7 +11,8 @@
 
 /// Keeps every call as a record, in order: to look at drawing in a test, or to replay it onto other surfaces.
 ///
-/// Nothing is checked or left out; a call with a NaN, an empty text or no layer is recorded as it came.
+/// Nothing is checked or left out; a call with a NaN, an empty text or no layer is recorded as it came. A call
+/// that throws std::bad_alloc is not recorded.
 /// One object belongs to one thread at a time.
 class GKCNTR_API gkRecordingTablet : public gkUITablet {
 public:

@@ -4,6 +4,8 @@
 #include "platform/display/svg_text.h"
 #include "platform/display/write_file.h"
 
+#include <new>
+
 using gk_Drawable::isFinite;
 using gk_Drawable::isPositive;
 using gk_SvgText::attribute;
@@ -116,8 +118,17 @@ std::string gkSvgTablet::stroke(const gkColor& color) const {
            attribute("stroke-width", strokeWidth_) + " stroke-linecap=\"round\"";
 }
 
+// Where memory fails on the way, layers that have the element already lose it again.
 void gkSvgTablet::add(const Layers& layers, const std::string& element) {
-    if (layers & eImageLayer) image_ += element;
-    if (layers & eOverlayLayer) overlay_ += element;
-    if (layers & eLabelLayer) label_ += element;
+    const std::size_t image = image_.size();
+    const std::size_t overlay = overlay_.size();
+    try {
+        if (layers & eImageLayer) image_ += element;
+        if (layers & eOverlayLayer) overlay_ += element;
+        if (layers & eLabelLayer) label_ += element;
+    } catch (const std::bad_alloc&) {
+        image_.resize(image);
+        overlay_.resize(overlay);
+        throw;
+    }
 }

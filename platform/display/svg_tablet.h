@@ -14,7 +14,8 @@
 /// The layers are three groups with the ids "image", "overlay" and "label", in that order, always present.
 /// Numbers are the shortest decimal text that reads back as the same double, whatever the locale, so the same
 /// calls give the same bytes on every machine. A call with a NaN or an infinity is left out. Images are
-/// embedded as base64 data, not decoded. One object belongs to one thread at a time.
+/// embedded as base64 data, not decoded. A call that throws std::bad_alloc draws on none of its layers. One
+/// object belongs to one thread at a time.
 class GKCNTR_API gkSvgTablet : public gkUITablet {
 public:
     /// An empty picture of width x height image pixels, shown `scale` times as large. The drawing coordinates,

@@ -34,7 +34,11 @@ void gkArchiveFile::close() {
     if (closed_) return;
     finish();
     if (isSaving()) {
-        std::ofstream out(path_, std::ios::binary | std::ios::trunc);
+        // A buffer of its own would be the one request for memory that comes after the file has been emptied.
+        char room[64];
+        std::ofstream out;
+        out.rdbuf()->pubsetbuf(room, sizeof room);
+        out.open(path_, std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(buffer().data()),
                   static_cast<std::streamsize>(buffer().size()));
         out.close();

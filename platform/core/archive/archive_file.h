@@ -21,7 +21,8 @@ public:
     ~gkArchiveFile() override;
 
     /// Saving: writes the file, replacing an older one, or throws WriteFailed; what the file holds then is
-    /// undefined. Loading: throws TrailingBytes when not everything was read. A second call does nothing.
+    /// undefined; std::bad_alloc leaves an older file as it was. Loading: throws TrailingBytes when not
+    /// everything was read. A second call does nothing.
     void close();
 
 private:
