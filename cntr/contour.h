@@ -272,6 +272,10 @@ protected:
                                            bool includeEnds) const;
     /// What answers questions about the outline's vertices; the library's own.
     gk_OutlineSearch& search() const;
+    /// The same if there is one already, else null.
+    const gk_OutlineSearch* knownSearch() const { return caches_.search.get(); }
+    /// The box kept under the identity's key, null when there is none.
+    const gkRect* keptBox() const { return caches_.encloseRects.find(gkXform<2>()); }
 
 private:
     friend class gk_RegionBoxes;
@@ -324,8 +328,6 @@ private:
     /// The maps and grids that the contour owns by pointer are absent until the first query that fills them.
     void initializePointers();
     void deletePointers();
-    /// The box kept under the identity's key, null when there is none.
-    const gkRect* keptBox() const;
     /// Counts as a change when an index could take the kept boxes for others than they now become.
     void noteNewBox(const gkXform<2>& xform) const;
 

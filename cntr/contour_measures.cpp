@@ -84,8 +84,6 @@ gkRect gkContour::encloseRect(const gkXform<2>& xform) const {
     return rect;
 }
 
-const gkRect* gkContour::keptBox() const { return caches_.encloseRects.find(gkXform<2>()); }
-
 // The identity's own box is what an index expects. Another transform may bring a box of its own under the
 // identity's key, or push the identity's box out, after which it would have to be asked for again.
 void gkContour::noteNewBox(const gkXform<2>& xform) const {

@@ -94,8 +94,16 @@ long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
 
 bool gkRegion::insideOutline(const gkVector<2>& point) const {
     const gk_OneThread here(*this);
-    gkContour::checkEmptyContour();
     const gk_Segments outline(points(), true);
+    // What has been asked before is kept, so that nothing is left to check or to keep.
+    const gk_OutlineSearch* const asked = knownSearch();
+    const gkRect* const box = asked ? keptBox() : nullptr;
+    if (box) {
+        if (!box->within(point)) return false;
+        const gk_Inside known = asked->insideByKnownCells(outline, point);
+        if (known != gk_Inside::eUnknown) return known == gk_Inside::eInside;
+    }
+    gkContour::checkEmptyContour();
     const bool isLarge = gk_OutlineSearch::isNeededFor(points());
     gk_Inside known = isLarge ? search().insideByScan(outline, point) : gk_Inside::eUnknown;
     if (!encloseRect(gkXform<2>()).within(point)) return false;

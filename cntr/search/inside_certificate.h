@@ -51,7 +51,8 @@ public:
     gk_InsideCertificate(std::size_t vertexCount, const gkVector<2>& first, double leastLength,
                          double greatestLength, const gk_Box& box)
         : first_(first), rayLength_(leastLength), box_(box), slack_(slackOf(greatestLength, box)),
-          margins_(vertexCount, slack_) {}
+          margins_(vertexCount, slack_), aroundFirst_(rayLength_ / 2.0 - margins_.segment),
+          aroundPoint_(rayLength_ - margins_.segment) {}
 
     // Least distances of segments and of vertices from the point.
     const gk_InsideMargins& margins() const { return margins_; }
@@ -65,13 +66,23 @@ public:
     // within D / 2 of its first vertex, and within its box.
     bool allowsRaysFrom(const gkVector<2>& point) const {
         if (!isExact()) return false;
-        if (gk_VectorOps::distance(first_, point) < rayLength_ / 2.0 - margins_.segment) return true;
+        if (aroundFirst_.holds(point - first_)) return true;
         const gkVector<2> farthest(std::max(point.x() - box_.x0, box_.x1 - point.x()),
                                    std::max(point.y() - box_.y0, box_.y1 - point.y()));
-        return gk_VectorOps::length(farthest) < rayLength_ - margins_.segment;
+        return aroundPoint_.holds(farthest);
     }
 
 private:
+    // Vectors that are certainly shorter than a length. The factor covers the roundings of both squares.
+    class Shorter {
+    public:
+        explicit Shorter(double length) : square_(length > 0.0 ? length * length * (1.0 - 0x1p-48) : 0.0) {}
+        bool holds(const gkVector<2>& v) const { return v.x() * v.x() + v.y() * v.y() < square_; }
+
+    private:
+        double square_;
+    };
+
     static double slackOf(double rayLength, const gk_Box& box) {
         const double reach = std::max(gk_Reach({box.x0, box.y0}), gk_Reach({box.x1, box.y1}));
         return 8.0 * gk_DistanceSlack(reach + rayLength);
@@ -82,6 +93,8 @@ private:
     gk_Box box_;
     double slack_;
     gk_InsideMargins margins_;
+    Shorter aroundFirst_;
+    Shorter aroundPoint_;
 };
 
 #endif

@@ -255,3 +255,8 @@ gk_Inside gk_OutlineSearch::insideByCells(const gk_Segments& outline, const gkVe
     }
     return gk_InsideByCells(outline, *index->cells, index->certificate, point);
 }
+
+gk_Inside gk_OutlineSearch::insideByKnownCells(const gk_Segments& outline, const gkVector<2>& point) const {
+    if (!inside_ || !inside_->certificate.allowsRaysFrom(point)) return gk_Inside::eUnknown;
+    return gk_InsideByCells(outline, *inside_->cells, inside_->certificate, point);
+}

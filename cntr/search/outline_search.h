@@ -76,6 +76,8 @@ public:
     // scan, which needs no ray and brings the box along for encloseRect(); later ones from cells.
     gk_Inside insideByScan(const gk_Segments& outline, const gkVector<2>& point);
     gk_Inside insideByCells(const gk_Segments& outline, const gkVector<2>& point, double rayLength);
+    // The same where the cells are there and no ray's direction needs to be known.
+    gk_Inside insideByKnownCells(const gk_Segments& outline, const gkVector<2>& point) const;
     // True once.
     bool isFirstAnswer() { return !std::exchange(hasAnswered_, true); }
 
