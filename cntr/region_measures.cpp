@@ -95,12 +95,11 @@ long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
 bool gkRegion::insideOutline(const gkVector<2>& point) const {
     const gk_OneThread here(*this);
     const gk_Segments outline(points(), true);
-    // What has been asked before is kept, so that nothing is left to check or to keep.
-    const gk_OutlineSearch* const asked = knownSearch();
-    const gkRect* const box = asked ? keptBox() : nullptr;
-    if (box) {
+    // A kept box has been checked for, and nothing new is kept on the way.
+    if (const gkRect* const box = keptBox()) {
         if (!box->within(point)) return false;
-        const gk_Inside known = asked->insideByKnownCells(outline, point);
+        const gk_OutlineSearch* const asked = knownSearch();
+        const gk_Inside known = asked ? asked->insideByKnownCells(outline, point) : gk_Inside::eUnknown;
         if (known != gk_Inside::eUnknown) return known == gk_Inside::eInside;
     }
     gkContour::checkEmptyContour();
