@@ -21,6 +21,7 @@
 #include "platform/core/archive/archive_memory.h"
 #include "platform/core/archive/archive_values.h"
 #include "platform/core/archive/archive_vector.h"
+#include "platform/core/file/file_name.h"
 #include "platform/core/fit/ellipse_fit.h"
 #include "platform/core/math/angle.h"
 #include "platform/core/math/matrix.h"

@@ -4,6 +4,7 @@
 
 #include "platform/core/math/two_doubles.h"
 
+#include <algorithm>
 #include <cstddef>
 
 // An extreme coordinate with the bits of the first place that has it: of equal numbers the first one counts,

@@ -3,7 +3,6 @@
 #ifndef GK_CNTR_KEPT_MAP_H
 #define GK_CNTR_KEPT_MAP_H
 
-#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>

@@ -111,7 +111,7 @@ std::string gkSvgTablet::svg() const {
            group("image", image_) + group("overlay", overlay_) + group("label", label_) + "</svg>\n";
 }
 
-void gkSvgTablet::save(const std::filesystem::path& file) const { gk_WriteFile::write(file, svg()); }
+void gkSvgTablet::save(const gkFileName& file) const { gk_WriteFile::write(file.native(), svg()); }
 
 std::string gkSvgTablet::stroke(const gkColor& color) const {
     return attribute("stroke", color.hex()) + opacity("stroke-opacity", color) +

@@ -3,10 +3,10 @@
 #ifndef GK_PLATFORM_DISPLAY_SVG_TABLET_H
 #define GK_PLATFORM_DISPLAY_SVG_TABLET_H
 
+#include "platform/core/file/file_name.h"
 #include "platform/display/uitablet.h"
 #include "platform/export.h"
 
-#include <filesystem>
 #include <string>
 
 /// Collects the calls as SVG 1.1 elements.
@@ -51,7 +51,7 @@ public:
     /// The whole document, UTF-8, lines ended by '\n'. Drawing may go on afterwards.
     std::string svg() const;
     /// Writes svg() to a file, replacing it. Throws CannotWrite when the file cannot be written.
-    void save(const std::filesystem::path& file) const;
+    void save(const gkFileName& file) const;
 
 private:
     std::string stroke(const gkColor& color) const;

@@ -8,6 +8,8 @@
 #include "tests/support/repair_rounds.h"
 #include "tests/support/shapes.h"
 
+#include <algorithm>
+
 namespace {
 
 // A crossing point lies within 1e-6 of one edge and, as the walk may come from another crossing point, within

@@ -1,5 +1,6 @@
 #include "platform/core/archive/archive_file.h"
 
+#include <filesystem>
 #include <fstream>
 #include <ios>
 #include <system_error>
@@ -23,10 +24,10 @@ std::vector<unsigned char> readAll(const std::filesystem::path& path) {
 
 } // namespace
 
-gkArchiveFile::gkArchiveFile(const std::filesystem::path& path, Mode mode)
+gkArchiveFile::gkArchiveFile(const gkFileName& name, Mode mode)
     : gk_ArchiveBuffer(mode == eLoad ? Direction::eLoad : Direction::eSave,
-                       mode == eLoad ? readAll(path) : std::vector<unsigned char>()),
-      path_(path) {}
+                       mode == eLoad ? readAll(name.native()) : std::vector<unsigned char>()),
+      name_(name) {}
 
 gkArchiveFile::~gkArchiveFile() = default;
 
@@ -38,7 +39,7 @@ void gkArchiveFile::close() {
         char room[64];
         std::ofstream out;
         out.rdbuf()->pubsetbuf(room, sizeof room);
-        out.open(path_, std::ios::binary | std::ios::trunc);
+        out.open(std::filesystem::path(name_.native()), std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(buffer().data()),
                   static_cast<std::streamsize>(buffer().size()));
         out.close();

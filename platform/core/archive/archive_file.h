@@ -4,9 +4,8 @@
 #define GK_PLATFORM_CORE_ARCHIVE_ARCHIVE_FILE_H
 
 #include "platform/core/archive/archive_buffer.h"
+#include "platform/core/file/file_name.h"
 #include "platform/export.h"
-
-#include <filesystem>
 
 /// Saves into, or loads from, a file. Both keep the whole archive in memory.
 class GKCNTR_API gkArchiveFile : public gk_ArchiveBuffer {
@@ -16,7 +15,7 @@ public:
     /// Loading reads the whole file and checks the header; throws CannotOpen (also when it is not a regular
     /// file), ReadFailed, NotAnArchive, UnknownFormat or Truncated. Saving does not touch the file before
     /// close().
-    gkArchiveFile(const std::filesystem::path& path, Mode mode);
+    gkArchiveFile(const gkFileName& name, Mode mode);
     /// Never throws. A saving archive that was not closed leaves no file.
     ~gkArchiveFile() override;
 
@@ -26,7 +25,7 @@ public:
     void close();
 
 private:
-    std::filesystem::path path_;
+    gkFileName name_;
     bool closed_ = false;
 };
 

@@ -5,7 +5,6 @@
 
 #include "platform/export.h"
 
-#include <functional>
 #include <memory>
 #include <utility>
 
@@ -49,11 +48,10 @@ private:
 /// destruction of a slot must not overlap its use.
 template <class T> class gk_ThreadLocal : private gk_ThreadSlot {
 public:
-    /// Makes the value of the calling thread: allocated with `new`, never null. It may throw, and may use other
-    /// slots, but not this one. It may be called by several threads at once.
-    using Factory = std::function<T*()>;
-
-    explicit gk_ThreadLocal(Factory factory) : factory_(std::move(factory)) {}
+    /// `factory()` makes the value of the calling thread: a T* allocated with `new`, never null. It may throw,
+    /// and may use other slots, but not this one. It may be called by several threads at once.
+    template <class Factory>
+    explicit gk_ThreadLocal(Factory factory) : maker_(std::make_unique<MakerBy<Factory>>(std::move(factory))) {}
 
     /// The calling thread's own value, the same at every call; the reference is valid until the thread ends.
     ///
@@ -61,13 +59,24 @@ public:
     /// thread has, of which there are as many as slots it used.
     T& get() const {
         if (void* const own = find()) return *static_cast<T*>(own);
-        std::unique_ptr<T> made(factory_());
+        std::unique_ptr<T> made(maker_->make());
         keep(made.get(), [](void* value) { delete static_cast<T*>(value); });
         return *made.release();
     }
 
 private:
-    Factory factory_;
+    // What std::function does, whose header takes as long to compile as all of the library's.
+    struct Maker {
+        virtual ~Maker() = default;
+        virtual T* make() = 0;
+    };
+    template <class Factory> struct MakerBy : Maker {
+        explicit MakerBy(Factory&& made) : factory(std::move(made)) {}
+        T* make() override { return factory(); }
+        Factory factory;
+    };
+
+    std::unique_ptr<Maker> maker_;
 };
 
 #endif
