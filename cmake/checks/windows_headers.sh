@@ -36,7 +36,7 @@ compile() { # how, header, flags...
         echo "$header: does not compile for Windows ($how)"
 }
 mapfile -t public < <(
-    find . -name '*.h' -printf '%P\n' | grep -E '^(gkcntr\.h$|platform/|cntr/|ch_core/)' |
+    find . -name '*.h' -printf '%P\n' | grep -E '^(gkcntr(_fwd)?\.h$|platform/|cntr/|ch_core/)' |
         grep -v '^platform/display/cairo/' | sort | comm -23 - <(cmake/checks/headers.sh --inner)
 )
 export compiler flags prefix
