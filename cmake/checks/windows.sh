@@ -53,6 +53,7 @@ ctest --test-dir "$linux" -N -V -L linux_only | sed -n 's/^.*Test command: \([^ 
         exports.sh) why="reads the names of an ELF library; windows.sh reads the DLL's" ;;
         examples_demo_test) why="runs the demo, which needs OpenCV" ;;
         fuzz_replay_demo_options) why="reads the command line of the demo, which needs OpenCV" ;;
+        gdb) why="shows shapes of a program for Linux in its debugger" ;;
         hostile_test) why="counts memory by an operator new of its own, which a DLL would not use" ;;
         memory_test) why="lets requests for memory fail by an operator new of its own, which a DLL would not use" ;;
         python*) why="changes sources to see whether tests notice, and needs no library" ;;
