@@ -11,7 +11,7 @@ using gk_Loop = std::vector<gkVector<2>>;
 
 // Cuts an outline at every vertex that it visits twice (within 1e-6), until no loop has one. Every vertex ends
 // up in one loop. Throws gkContourDefs::EmptyContour when a loop of a single vertex comes up, as its queries
-// do.
+// would. There must be a vertex.
 std::vector<gk_Loop> gk_CutLoops(const gk_Loop& walked);
 
 // Leaves out every loop the middle of whose first edge lies inside another one.

@@ -112,7 +112,6 @@ private:
 // cuts than vertices. After a cut the scan goes on where it was: the loops before are free of repeats and stay
 // so, and so are the vertices before the cut, which now are in the other part.
 std::vector<gk_Loop> gk_CutLoops(const gk_Loop& walked) {
-    if (walked.empty()) return {walked};
     WalkedLoops rings(walked);
     std::vector<WalkedLoops::Loop> loops = {rings.whole()};
     for (std::size_t i = 0; i < loops.size();) {

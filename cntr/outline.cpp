@@ -1,6 +1,5 @@
 #include "cntr/outline.h"
 
-#include "cntr/contour_defs.h"
 #include "cntr/index.h"
 #include "cntr/measures.h"
 
@@ -12,10 +11,6 @@ gk_Outline::gk_Outline(std::vector<gkVector<2>> points)
 gk_Outline::gk_Outline(std::vector<gkVector<2>> points, const gkRect& box, const gk_OutlineSearch& search)
     : points_(std::move(points)), size_(gk_SizeAsLoop(points_.size())), box_(box), search_(search) {}
 
-void gk_Outline::check() const {
-    if (points_.size() < 2) throw gkContourDefs::EmptyContour(L"");
-}
-
 const gkRect& gk_Outline::box() {
     if (!box_) box_ = search_.encloseRect(points_, gkXform<2>());
     return *box_;
@@ -26,10 +21,7 @@ double gk_Outline::rayLength() {
     return *rayLength_;
 }
 
-void gk_Outline::gatherCloseSegments(double margin) {
-    check();
-    close_ = search_.closeSegments(segments(), margin);
-}
+void gk_Outline::gatherCloseSegments(double margin) { close_ = search_.closeSegments(segments(), margin); }
 
 template <class Visit>
 void gk_Outline::visitCrossingsClose(long segment, const gk_CrossingTest& query, Visit visit) const {
@@ -64,25 +56,17 @@ bool gk_Outline::hasCrossingsBeside(long segment, const gkLineSeg& seg, bool inc
     return found == count;
 }
 
-std::vector<int> gk_Outline::near(const gkVector<2>& p, double tolerance) {
-    check();
-    return search_.verticesWithin(points_, p, tolerance);
-}
-
 long gk_Outline::insideCount(const gkVector<2>& point, bool bothWays) {
-    check();
     if (!box().within(point)) return 0;
     return search_.insideCount(segments(), point, rayLength(), bothWays);
 }
 
 bool gk_Outline::seesOutside(const gkVector<2>& point, gk_RaysMet& met) {
-    check();
     if (!box().within(point)) return true;
     return search_.seesOutside(segments(), point, rayLength(), met);
 }
 
 bool gk_Outline::inside(const gkVector<2>& point) {
-    check();
     gk_Inside known = search_.insideByScan(segments(), point);
     if (!box().within(point)) return false;
     if (known == gk_Inside::eUnknown) known = search_.insideByCells(segments(), point, rayLength());

@@ -18,8 +18,8 @@ inline long gk_WrapOnce(long a, long m) {
     return a;
 }
 
-// Answers as a region of these vertices would. The queries throw gkContourDefs::EmptyContour below 2 vertices,
-// the constructors BadParams for more than 2^30 - 1.
+// Answers as a region of these vertices would, of which there must be at least 2: repair makes nothing of
+// fewer. The constructors throw BadParams for more than 2^30 - 1.
 class gk_Outline {
 public:
     explicit gk_Outline(std::vector<gkVector<2>> points);
@@ -46,12 +46,6 @@ public:
         return close_ && close_->hasNone(static_cast<std::size_t>(segment));
     }
 
-    // False when no vertex can be nearer than the tolerance.
-    bool mayHaveNear(const gkVector<2>& p, double tolerance) {
-        return gk_Box::of(box()).grownBy(2.0 * tolerance).holds(p);
-    }
-    // Indices of the vertices nearer than the tolerance, in the vertex grid's order.
-    std::vector<int> near(const gkVector<2>& p, double tolerance);
     // Whether insideCount(point, true) would be 0: a ray or its opposite leaves without a crossing. `met` names
     // segments to try first and receives those that the rays met.
     bool seesOutside(const gkVector<2>& point, gk_RaysMet& met);
@@ -62,7 +56,6 @@ private:
     long insideCount(const gkVector<2>& point, bool bothWays);
     template <class Visit>
     void visitCrossingsClose(long segment, const gk_CrossingTest& query, Visit visit) const;
-    void check() const;
     const gkRect& box();
     double rayLength();
     gk_Segments segments() const { return gk_Segments(points_, true); }
