@@ -1,0 +1,28 @@
+# For the scripts beside it, to be sourced with $gkcntr, the folder of the sources, and $room, a folder for what is made:
+# users' projects as docs/install.md has them.
+
+export CMAKE_GENERATOR=Ninja CMAKE_BUILD_PARALLEL_LEVEL=${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)} gkcntr
+block() { "$gkcntr/tests/install/block.sh" "$1"; }
+
+failed() { # what...; shows what the last lines said
+    echo "FAILED: $*" >&2
+    tail -n 40 "$room/log" >&2
+    exit 1
+}
+
+project() { # name, block of its CMakeLists.txt: a fresh folder with the program, in which the next lines run
+    rm -rf "${room:?}/$1"
+    mkdir -p "$room/$1"
+    cd "$room/$1"
+    block main.cpp >main.cpp
+    block "$2" >CMakeLists.txt
+}
+
+lines() { # block: its lines, as the user types them
+    bash -euo pipefail -c "$(block "$1")" >"$room/log" 2>&1 || failed "$1, in $PWD"
+}
+
+printed() { # what: the last lines are the program's
+    [ "$(tail -n 2 "$room/log" | tr -d '\r')" = "$(block output | sed '/^$/d')" ] || failed "$1: it printed something else"
+    echo "$1"
+}
