@@ -26,3 +26,18 @@ printed() { # what: the last lines are the program's
     [ "$(tail -n 2 "$room/log" | tr -d '\r')" = "$(block output | sed '/^$/d')" ] || failed "$1: it printed something else"
     echo "$1"
 }
+
+pictured() { # what: the program has written its picture
+    [ "$(head -c 4 bow.png | tail -c 3)" = PNG ] || failed "$1: it wrote no picture"
+    rm bow.png
+    echo "$1"
+}
+
+pictures() { # the component cairo of what $prefix holds
+    project cairo "CMakeLists.txt of the picture"
+    block picture.cpp >picture.cpp
+    lines "find cairo"
+    pictured "the component cairo, find_package"
+    lines "pkg-config cairo"
+    pictured "the component cairo, pkg-config"
+}

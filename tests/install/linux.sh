@@ -28,17 +28,7 @@ project pc CMakeLists.txt
 lines pkg-config
 printed "pkg-config"
 
-pictured() { # what: the program has written its picture
-    [ "$(head -c 4 bow.png | tail -c 3)" = PNG ] || failed "$1: it wrote no picture"
-    echo "$1"
-}
-project cairo "CMakeLists.txt of the picture"
-block picture.cpp >picture.cpp
-lines "find cairo"
-pictured "the component cairo, find_package"
-rm bow.png
-lines "pkg-config cairo"
-pictured "the component cairo, pkg-config"
+pictures
 
 echo "-- static"
 project whole "CMakeLists.txt of the whole"
