@@ -9,9 +9,13 @@ include(GNUInstallDirs)
 set(gk_package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/gkcntr)
 set(gk_pc_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-# gk_install_library(TARGET RUNTIME DEVELOPMENT): TARGET with the headers of its file set, what programs need when they run
-# in the component RUNTIME, the rest in DEVELOPMENT; described for CMake here and for the build folder, and for pkg-config.
-function(gk_install_library target runtime development)
+add_custom_target(gkcntr_libraries COMMENT "Everything that is installed")
+
+# gk_install_library(TARGET RUNTIME DEVELOPMENT PC): TARGET with the headers of its file set, what programs need when they
+# run in the component RUNTIME, the rest in DEVELOPMENT; described for CMake here and for the build folder, and for
+# pkg-config by PC.
+function(gk_install_library target runtime development pc)
+  add_dependencies(gkcntr_libraries ${target})
   install(TARGETS ${target} EXPORT ${target}
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${runtime}
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${runtime} NAMELINK_COMPONENT ${development}
@@ -21,7 +25,7 @@ function(gk_install_library target runtime development)
   install(EXPORT ${target} NAMESPACE gkcntr:: FILE ${target}Targets.cmake
     DESTINATION ${gk_package_folder} COMPONENT ${development})
   export(EXPORT ${target} NAMESPACE gkcntr:: FILE ${PROJECT_BINARY_DIR}/${target}Targets.cmake)
-  configure_file(${PROJECT_SOURCE_DIR}/cmake/install/${target}.pc.in ${PROJECT_BINARY_DIR}/${target}.pc @ONLY)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/install/${pc} ${PROJECT_BINARY_DIR}/${target}.pc @ONLY)
   install(FILES ${PROJECT_BINARY_DIR}/${target}.pc DESTINATION ${gk_pc_folder} COMPONENT ${development})
 endfunction()
 
@@ -36,12 +40,14 @@ if(NOT BUILD_SHARED_LIBS)
   set(gk_pc_define " -DGKCNTR_STATIC")
 endif()
 
-gk_install_library(gkcntr gkcntr_runtime gkcntr_dev)
+gk_install_library(gkcntr gkcntr_runtime gkcntr_dev gkcntr.pc.in)
 if(TARGET gkcntr_cairo)
-  gk_install_library(gkcntr_cairo gkcntr_cairo gkcntr_cairo)
+  set(gk_pc_requires ", ${gk_pc_cairo}")
+  gk_install_library(gkcntr_cairo gkcntr_cairo gkcntr_cairo component.pc.in)
 endif()
 if(TARGET gkcntr_interop)
-  gk_install_library(gkcntr_interop gkcntr_interop gkcntr_interop)
+  set(gk_pc_requires)
+  gk_install_library(gkcntr_interop gkcntr_interop gkcntr_interop component.pc.in)
 endif()
 
 list(JOIN gk_cairo_modules " " gk_cairo_modules)

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # usage: installed.sh FOLDER CONFIGURATION FILE...
 # FOLDER, an installation, holds the public headers, the files of the CMake package, the licence, the FILEs, and nothing
-# else; and no text in it says where it was made. Where the .pc file of the Cairo surface is
-# among the FILEs, its header and package files are expected as well.
+# else; and no text in it says where it was made. The .pc files among the FILEs tell whose headers and package files are
+# expected.
 set -euo pipefail
 export LC_ALL=C
 
@@ -10,14 +10,18 @@ folder=$(realpath "$1")
 configuration=$2
 shift 2
 root=$(realpath "$(dirname "$0")/../..")
-cairo=
-[[ " $* " != *gkcntr_cairo.pc* ]] || cairo=gkcntr_cairo
 
-expected() {
-    echo include/gkcntr/gkcntr.h
-    sed -n 's,^#include "\(.*\)"$,include/gkcntr/\1,p' "$root/gkcntr.h"
-    [ -z "$cairo" ] || echo include/gkcntr/platform/display/cairo/cairo_tablet.h
-    for library in gkcntr $cairo; do
+headers() { # library
+    case $1 in
+        gkcntr) echo gkcntr.h && sed -n 's,^#include "\(.*\)"$,\1,p' "$root/gkcntr.h" ;;
+        gkcntr_cairo) echo platform/display/cairo/cairo_tablet.h ;;
+    esac
+}
+
+expected() { # files...
+    local library
+    for library in $(printf '%s\n' "$@" | sed -n 's,^lib/pkgconfig/\(.*\)\.pc$,\1,p'); do
+        headers "$library" | sed 's,^,include/gkcntr/,'
         printf 'lib/cmake/gkcntr/%s\n' "${library}Targets.cmake" "${library}Targets-$configuration.cmake"
     done
     printf 'lib/cmake/gkcntr/%s\n' gkcntrConfig.cmake gkcntrConfigVersion.cmake
