@@ -87,9 +87,10 @@ GKCNTR_API gkVector<2> gf_CenterOfMass(const std::vector<gkEdgelet>& edgelets);
 /// Signed area, centroid and central second moments of the closed polygon, as a fan of triangles about its
 /// centroid.
 ///
-/// Fewer than 3 vertices give the zero record. For a counter-clockwise polygon the moments are the true ones.
-/// For a clockwise polygon the area is negative, and the moments are true only when no triangle of the fan is
-/// reversed (the outline is star-shaped from its centroid): the signs of gk_InertiaData's operator+ then
+/// Fewer than 3 vertices give the zero record, and so does a NaN vertex: it makes the centroid NaN, and a
+/// triangle with such a corner counts for nothing. For a counter-clockwise polygon the moments are the true
+/// ones. For a clockwise polygon the area is negative, and the moments are true only when no triangle of the
+/// fan is reversed (the outline is star-shaped from its centroid): the signs of gk_InertiaData's operator+ then
 /// subtract what they should add. This is the defined result, not to be mended by turning the outline around;
 /// turn the vertices yourself when you need true moments.
 ///

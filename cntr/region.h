@@ -29,8 +29,9 @@
 /// holes or a kept repaired region may live on different threads only while nothing is asked of the shared
 /// object itself; asking with considerHoles fills the holes' caches.
 ///
-/// \b Throws: EmptyContour (empty message) below 3 vertices from area, centerOfMass, inertiaMatrix and the
-/// repairs; point queries are the contour's and ask for 2.
+/// \b Throws: EmptyContour (empty message) below 3 vertices from area, centerOfMass and inertiaMatrix; point
+/// queries are the contour's and ask for 2. Repair asks for none, since so short an outline cannot cross
+/// itself.
 ///
 /// \b Memory: as gkContour says. After a failed load the outline is the former or the loaded one, and so are
 /// the holes, each for itself.
@@ -161,8 +162,8 @@ public:
     /// has no holes and label 0. `result` may be *this. Results are kept. docs/repair.md shows what to expect.
     ///
     /// Both throw BadParams "invalid contour" when no edge can start the walk around the outline, or when the
-    /// walk would never come back to its start, and EmptyContour below 3 vertices. Cost: O(n) segment queries
-    /// for the walk, each O(n); the start may take O(n) inside tests.
+    /// walk would never come back to its start. Cost: O(n) segment queries for the walk, each O(n); the start
+    /// may take O(n) inside tests.
     /// @{
 
     /// Sets `result` to the boundary that a walk around the outline meets, turning at every crossing: one
@@ -171,8 +172,9 @@ public:
     /// Sets `result` to that boundary cut at every vertex it visits twice, without the loops that lie inside
     /// others, joined again where they share a vertex.
     ///
-    /// When loops remain that share no vertex, gstd_assert_ is called with line 618; when its handler returns,
-    /// the first is the result.
+    /// EmptyContour when a cut leaves a loop of one vertex, as repeated vertices do. When loops remain that
+    /// share no vertex, gstd_assert_ is called with line 618; when its handler returns, the first is the
+    /// result.
     void outerHull(gkRegion& result) const;
     /// @}
 
