@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Every link leads somewhere: in the pages of the tree, to a file and a heading of it; in the reference built from them,
-to a page and an anchor of it. And every page of docs/ is part of that reference.
+to a page and an anchor of it. And every page of docs/ is part of that reference, and every picture of one of the pages.
 
 usage: links.py ROOT [HTML]; without the folder of the reference the pages alone are looked at"""
 import re
@@ -54,7 +54,7 @@ class Links(HTMLParser):
 
     def handle_starttag(self, tag, attributes):
         for name, value in attributes:
-            if name in ("href", "src") and value:
+            if name in ("href", "src", "data") and value:
                 self.links.add(value)
             elif name == "id" or (name == "name" and tag == "a"):
                 self.anchors.add(value)
@@ -73,6 +73,13 @@ def broken_in_reference(html):
                 yield f"{name}: {link}: there is no such anchor"
 
 
+def pictures_not_shown(root):
+    shown = "".join(page.read_text(encoding="utf-8") for page in pages_of(root))
+    for picture in sorted((root / "docs" / "images").rglob("*.*")):
+        if picture.relative_to(root / "docs").as_posix() not in shown:
+            yield f"{picture.relative_to(root)}: no page shows it"
+
+
 def missing_in_reference(root, html):
     titles = {re.sub(r"\s+", " ", title) for file in html.glob("*.html")
               for title in re.findall(r'<div class="title">(.*?)\s*</div>', file.read_text(encoding="utf-8"), re.DOTALL)}
@@ -84,7 +91,7 @@ def missing_in_reference(root, html):
 
 def main():
     root = Path(sys.argv[1]).resolve()
-    wrong = list(broken_in_pages(root))
+    wrong = [*broken_in_pages(root), *pictures_not_shown(root)]
     if len(sys.argv) > 2:
         html = Path(sys.argv[2])
         wrong += list(broken_in_reference(html)) + list(missing_in_reference(root, html))
