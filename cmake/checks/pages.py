@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Every link leads somewhere: in the pages of the tree, to a file and a heading of it; in the reference built from them,
-to a page and an anchor of it. And every page of docs/ is part of that reference, and every picture of one of the pages.
+to a page and an anchor of it. Every page of docs/ is part of that reference, and every picture of one of the pages. What
+the README says about speed is what docs/performance.md says.
 
-usage: links.py ROOT [HTML]; without the folder of the reference the pages alone are looked at"""
+usage: pages.py ROOT [HTML]; without the folder of the reference the pages alone are looked at"""
 import re
 import sys
 from html.parser import HTMLParser
@@ -80,6 +81,27 @@ def pictures_not_shown(root):
             yield f"{picture.relative_to(root)}: no page shows it"
 
 
+def rows_of(page):
+    return [[cell.strip() for cell in line.strip("|").split("|")]
+            for line in page.read_text(encoding="utf-8").splitlines() if line.startswith("|")]
+
+
+def other_figures(root):
+    """The README's table has for each operation the figures of the shape "star", fresh and repeated."""
+    kept = {(row[0], row[1], size): re.search(r"star ([\d.]+)", row[column])
+            for row in rows_of(root / "docs" / "performance.md") if len(row) == 6
+            for size, column in (("1 000", 2), ("100 000", 3))}
+    head = []
+    for row in rows_of(root / "README.md"):
+        if row[0] == "operation":
+            head = row
+        elif head and not row[0].startswith("---"):
+            for column, figure in list(zip(head, row))[1:]:
+                found = kept.get((row[0], *column.split(", ")))
+                if figure and (not found or found.group(1) != figure):
+                    yield f"README.md: {row[0]}, {column}: {figure} is not the figure of docs/performance.md"
+
+
 def missing_in_reference(root, html):
     titles = {re.sub(r"\s+", " ", title) for file in html.glob("*.html")
               for title in re.findall(r'<div class="title">(.*?)\s*</div>', file.read_text(encoding="utf-8"), re.DOTALL)}
@@ -91,11 +113,11 @@ def missing_in_reference(root, html):
 
 def main():
     root = Path(sys.argv[1]).resolve()
-    wrong = [*broken_in_pages(root), *pictures_not_shown(root)]
+    wrong = [*broken_in_pages(root), *pictures_not_shown(root), *other_figures(root)]
     if len(sys.argv) > 2:
         html = Path(sys.argv[2])
         wrong += list(broken_in_reference(html)) + list(missing_in_reference(root, html))
-    print("\n".join(wrong) if wrong else "every link leads somewhere")
+    print("\n".join(wrong) if wrong else "the pages hold together")
     return 1 if wrong else 0
 
 
