@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
-find . -type f \( -name '*.h' -o -name '*.cpp' \) -printf '%P\n' | grep -E '^(platform|cntr|ch_core)/' | sort | xargs -r awk '
+find . -type f \( -name '*.h' -o -name '*.cpp' \) -printf '%P\n' | grep -E '^(platform|cntr|ch_core|interop)/' | sort | xargs -r awk '
     function under(path, room) { return path == room || index(path, room "/") == 1 }
 
     FILENAME == "cmake/layers.txt" {

@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 
 compiler=x86_64-w64-mingw32-g++-posix
-standard=$(cat $(find platform cntr ch_core -name '*.h') | sed -n 's/^ *# *include *\(<[a-z_]*>\).*/#include \1/p' | sort -u)
+standard=$(cat $(find platform cntr ch_core interop -name '*.h') | sed -n 's/^ *# *include *\(<[a-z_]*>\).*/#include \1/p' | sort -u)
 
 macros() {
     local name
@@ -36,8 +36,8 @@ compile() { # how, header, flags...
         echo "$header: does not compile for Windows ($how)"
 }
 mapfile -t public < <(
-    find . -name '*.h' -printf '%P\n' | grep -E '^(gkcntr(_fwd)?\.h$|platform/|cntr/|ch_core/)' |
-        grep -v '^platform/display/cairo/' | sort | comm -23 - <(cmake/checks/headers.sh --inner)
+    find . -name '*.h' -printf '%P\n' | grep -E '^(gkcntr(_fwd)?\.h$|platform/|cntr/|ch_core/|interop/)' |
+        grep -v -e '^platform/display/cairo/' -e '^interop/opencv\.h' | sort | comm -23 - <(cmake/checks/headers.sh --inner)
 )
 export compiler flags prefix
 export -f compile
