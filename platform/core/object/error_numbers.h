@@ -11,6 +11,7 @@
 /// | 0x10000200 | gkArchive |
 /// | 0x10000300 | gkUITablet |
 /// | 0x10000400 | gkEllipseFitDefs |
+/// | 0x10000500 | gkTextDefs of the text formats, which lists its own |
 /// | 0x10004680 to 0x10004684 | gkContourDefs, which lists its own |
 class gk_ErrorNumber {
 public:
