@@ -55,6 +55,7 @@ ctest --test-dir "$linux" -N -V -L linux_only | sed -n 's/^.*Test command: \([^ 
         fuzz_replay_demo_options) why="reads the command line of the demo, which needs OpenCV" ;;
         gdb) why="shows shapes of a program for Linux in its debugger" ;;
         hostile_test) why="counts memory by an operator new of its own, which a DLL would not use" ;;
+        interop_opencv_test) why="works with OpenCV" ;;
         memory_test) why="lets requests for memory fail by an operator new of its own, which a DLL would not use" ;;
         python*) why="changes sources to see whether tests notice, and needs no library" ;;
         platform_cairo_test) why="draws with Cairo" ;;
