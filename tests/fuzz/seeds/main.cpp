@@ -79,6 +79,40 @@ void writeCommandLines() {
     }
 }
 
+void writeTexts(const std::string& target, const std::vector<std::string>& texts) {
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        write(target, std::to_string(i), Bytes(texts[i].begin(), texts[i].end()));
+}
+
+void writeTexts() {
+    writeTexts("wkt", {
+                          "LINESTRING EMPTY",
+                          "LINESTRING (0 0, 4 0.5, -0 1e+22)",
+                          "POLYGON ((0 0, 4 0, 0 3, 0 0))",
+                          "POLYGON ((0 0, 9 0, 9 9, 0 9, 0 0), (1 1, 2 1, 2 2, 1 2, 1 1), EMPTY)",
+                          "MultiPolygon(((0 0,1 0,1 1,0 0)),EMPTY)",
+                          "GEOMETRYCOLLECTION (POLYGON EMPTY, GEOMETRYCOLLECTION (LINESTRING (1 2, 3 4)))",
+                          "POLYGON Z ((1 2 3, 4 5 6, 1 2 3))",
+                      });
+    writeTexts(
+        "geojson",
+        {
+            R"({"type":"LineString","coordinates":[[0,0],[4,0.5],[-0.0,1e+22]]})",
+            R"({"type":"Polygon","coordinates":[[[0,0],[9,0],[0,9],[0,0]],[[1,1],[2,1],[1,2],[1,1]],[]]})",
+            R"({"coordinates":[[[[0,0],[1,0],[1,1],[0,0]]],[]],"type":"MultiPolygon"})",
+            R"({"type":"GeometryCollection","geometries":[{"type":"Polygon","coordinates":[]}]})",
+            R"({"type":"FeatureCollection","features":[{"type":"Feature","properties":{"a":[null,true,"\u0041"]},)"
+            R"("geometry":{"type":"Polygon","coordinates":[[[1,2],[1,2]]]}},{"type":"Feature","geometry":null}]})",
+        });
+    writeTexts("svg_path", {
+                               "M 1 2 L 3 4 L 5 2 Z",
+                               "m1 2 3 4ZZl1 1Z m 2 2 h 1 M 0 0",
+                               "M10-20L.5.25\t-3 , +4e2 H5V6h-1v-1z",
+                               "M0 0H9L0 9ZM1 1H2L1 2Z",
+                               "M 0 0 C 1 2 3 4 5 6",
+                           });
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -93,4 +127,5 @@ int main(int argc, char** argv) {
     writeSets();
     writeTwins();
     writeCommandLines();
+    writeTexts();
 }
