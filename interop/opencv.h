@@ -67,6 +67,12 @@ template <class CvPoint> std::vector<gkVector<2>> toVertices(const std::vector<C
     return vertices;
 }
 
+/// A contour of these points. findContours closes its own; curves of approxPolyDP may be open.
+template <class CvPoint>
+gkContour toContour(const std::vector<CvPoint>& points, bool closed, unsigned long label = 0) {
+    return gkContour(toVertices(points), closed, label);
+}
+
 /// A region of an outline and holes.
 template <class CvPoint>
 gkRegion toRegion(const std::vector<CvPoint>& outline, const std::vector<std::vector<CvPoint>>& holes = {},

@@ -50,6 +50,12 @@ TEST(OpenCvPoints, AreTheVertices) {
     EXPECT_EQ(vertices, gnOpenCv::toVertices(gnOpenCv::toPoints<cv::Point2f>(vertices)));
 }
 
+TEST(OpenCvPoints, MakeAContour) {
+    const gkContour contour = gnOpenCv::toContour(std::vector<cv::Point>{{0, 0}, {4, 3}}, false, 7);
+    EXPECT_EQ(gkContour({{0, 0}, {4, 3}}, false, 0), contour);
+    EXPECT_EQ(7u, contour.label());
+}
+
 TEST(OpenCvPoints, AreRoundedToWholeNumbersHalvesToEven) {
     EXPECT_EQ((std::vector<cv::Point>{{0, -2}, {2, 3}, {3, -1}}),
               gnOpenCv::toPoints<cv::Point>({{0.5, -2}, {1.5, 3.25}, {2.75, -0.75}}));
