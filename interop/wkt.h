@@ -15,8 +15,8 @@
 /// |---|---|
 /// | open contour | `LINESTRING (0 0, 4 0)`, without vertices `LINESTRING EMPTY` |
 /// | closed contour | `POLYGON ((0 0, 4 0, 0 3, 0 0))`, without vertices `POLYGON EMPTY` |
-/// | region | `POLYGON`, the outline's ring first, then a ring for each hole; `EMPTY` for one without vertices
-/// | | set of regions | `MULTIPOLYGON (((0 0, ...)), EMPTY)`, without regions `MULTIPOLYGON EMPTY` |
+/// | region | `POLYGON`, the outline's ring, then the holes'; without vertices `POLYGON EMPTY` |
+/// | set of regions | `MULTIPOLYGON (((0 0, ...)), EMPTY)`, without regions `MULTIPOLYGON EMPTY` |
 ///
 /// What write() gave reads back as the same vertices to the bit, in the same order and of the same kind. Labels
 /// and cachedVectorSize are not told and come back as 0 and 3. Rings of one or two vertices are written and
