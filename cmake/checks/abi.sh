@@ -16,7 +16,7 @@ git archive "$tag" | tar -x -C "$folder/sources"
 
 build() { # sources, folder; with the names and types that abidiff reads
     cmake -G Ninja -S "$1" -B "$2" -DCMAKE_BUILD_TYPE=None -DCMAKE_CXX_FLAGS='-g -O1' -DBUILD_SHARED_LIBS=ON \
-        -DGKCNTR_TESTS=OFF -DGKCNTR_EXAMPLES=OFF -DGKCNTR_CAIRO=OFF -DGKCNTR_WERROR=OFF >"$folder/log" 2>&1 &&
+        -DGKCNTR_TESTS=OFF -DGKCNTR_EXAMPLES=OFF -DGKCNTR_CAIRO=OFF -DGKCNTR_INTEROP=OFF -DGKCNTR_WERROR=OFF >"$folder/log" 2>&1 &&
         cmake --build "$2" --target gkcntr --parallel "$(nproc)" >>"$folder/log" 2>&1 || { cat "$folder/log"; exit 1; }
 }
 build "$folder/sources" "$folder/then"

@@ -14,8 +14,8 @@ class Gkcntr(ConanFile):
     description = "Two-dimensional contour and region geometry for machine vision"
     package_type = "library"
     settings = "os", "compiler", "build_type", "arch"
-    options = {"shared": [True, False], "fPIC": [True, False], "cairo": [True, False]}
-    default_options = {"shared": True, "fPIC": True, "cairo": False}
+    options = {"shared": [True, False], "fPIC": [True, False], "cairo": [True, False], "interop": [True, False]}
+    default_options = {"shared": True, "fPIC": True, "cairo": False, "interop": False}
     implements = ["auto_shared_fpic"]
 
     def set_version(self):
@@ -30,6 +30,8 @@ class Gkcntr(ConanFile):
         self.requires("eigen/[>=3.4 <4]", visible=False)
         if self.options.cairo:
             self.requires("cairo/[>=1.16 <2]")
+        if self.options.interop:
+            self.requires("nlohmann_json/[>=3.11 <4]", visible=False)
 
     def layout(self):
         cmake_layout(self)
@@ -40,6 +42,7 @@ class Gkcntr(ConanFile):
         toolchain.cache_variables["GKCNTR_EXAMPLES"] = False
         toolchain.cache_variables["GKCNTR_WERROR"] = False
         toolchain.cache_variables["GKCNTR_CAIRO"] = bool(self.options.cairo)
+        toolchain.cache_variables["GKCNTR_INTEROP"] = bool(self.options.interop)
         toolchain.generate()
         CMakeDeps(self).generate()
 

@@ -22,8 +22,8 @@ lines() { # block: its lines, as the user types them
     bash -euo pipefail -c "$(block "$1")" >"$room/log" 2>&1 || failed "$1, in $PWD"
 }
 
-printed() { # what: the last lines are the program's
-    [ "$(tail -n 2 "$room/log" | tr -d '\r')" = "$(block output | sed '/^$/d')" ] || failed "$1: it printed something else"
+printed() { # what [block]: the last lines are the program's
+    [ "$(tail -n 2 "$room/log" | tr -d '\r')" = "$(block "${2:-output}" | sed '/^$/d')" ] || failed "$1: it printed something else"
     echo "$1"
 }
 
@@ -40,4 +40,13 @@ pictures() { # the component cairo of what $prefix holds
     pictured "the component cairo, find_package"
     lines "pkg-config cairo"
     pictured "the component cairo, pkg-config"
+}
+
+texts() { # the component interop of what $prefix holds
+    project interop "CMakeLists.txt of the text"
+    block text.cpp >text.cpp
+    lines "find interop"
+    printed "the component interop, find_package" "output of the text"
+    lines "pkg-config interop"
+    printed "the component interop, pkg-config" "output of the text"
 }

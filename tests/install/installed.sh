@@ -14,6 +14,7 @@ root=$(realpath "$(dirname "$0")/../..")
 headers() { # library
     case $1 in
         gkcntr) echo gkcntr.h && sed -n 's,^#include "\(.*\)"$,\1,p' "$root/gkcntr.h" ;;
+        gkcntr_interop) (cd "$root" && find interop -name '*.h' | sort | comm -23 - <(sort cmake/inner_headers.txt)) ;;
         gkcntr_cairo) echo platform/display/cairo/cairo_tablet.h ;;
     esac
 }

@@ -12,8 +12,8 @@ echo "-- shared"
 export prefix=$room/made
 rm -rf "$prefix" "$room/moved"
 lines install
-"$gkcntr/tests/install/installed.sh" "$prefix" release lib/libgkcntr.so{,.0,.0.1.0} lib/libgkcntr_cairo.a \
-    lib/pkgconfig/gkcntr{,_cairo}.pc
+"$gkcntr/tests/install/installed.sh" "$prefix" release lib/libgkcntr.so{,.0,.0.1.0} lib/libgkcntr_{cairo,interop}.a \
+    lib/pkgconfig/gkcntr{,_cairo,_interop}.pc
 mv "$prefix" "$room/moved" # nothing in it depends on where it lies
 export prefix=$room/moved
 readelf -d "$prefix/lib/libgkcntr.so" | grep -q 'soname: \[libgkcntr.so.0\]'
@@ -29,6 +29,7 @@ lines pkg-config
 printed "pkg-config"
 
 pictures
+texts
 
 echo "-- static"
 project whole "CMakeLists.txt of the whole"

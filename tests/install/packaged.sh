@@ -16,3 +16,4 @@ project pc CMakeLists.txt
 lines pkg-config
 printed "pkg-config"
 pictures
+texts

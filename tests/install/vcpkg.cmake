@@ -16,8 +16,9 @@ endfunction()
 
 function(vcpkg_check_features)
   cmake_parse_arguments(PARSE_ARGV 0 arg "" "OUT_FEATURE_OPTIONS" "FEATURES")
-  list(GET arg_FEATURES 1 option)
-  set(${arg_OUT_FEATURE_OPTIONS} -D${option}=OFF PARENT_SCOPE)
+  list(FILTER arg_FEATURES INCLUDE REGEX "^GKCNTR_")
+  list(TRANSFORM arg_FEATURES REPLACE "(.+)" "-D\\1=OFF")
+  set(${arg_OUT_FEATURE_OPTIONS} ${arg_FEATURES} PARENT_SCOPE)
 endfunction()
 
 function(vcpkg_cmake_configure)

@@ -26,7 +26,8 @@ echo "-- the DLL"
 export prefix=$room/windows_made
 rm -rf "$prefix" "$room/windows_moved"
 lines "install for Windows"
-"$gkcntr/tests/install/installed.sh" "$prefix" release bin/gkcntr.dll lib/libgkcntr.dll.a lib/pkgconfig/gkcntr.pc
+"$gkcntr/tests/install/installed.sh" "$prefix" release bin/gkcntr.dll lib/libgkcntr.dll.a \
+    lib/libgkcntr_interop.a lib/pkgconfig/gkcntr{,_interop}.pc
 mv "$prefix" "$room/windows_moved"
 export prefix=$room/windows_moved
 
@@ -54,7 +55,8 @@ echo "-- the static library"
 export prefix=$room/windows_static_made
 rm -rf "$prefix"
 cmake --install "$gkcntr/build/windows-static" --prefix "$prefix" >"$room/log"
-"$gkcntr/tests/install/installed.sh" "$prefix" release lib/libgkcntr.a lib/pkgconfig/gkcntr.pc
+"$gkcntr/tests/install/installed.sh" "$prefix" release lib/libgkcntr{,_interop}.a \
+    lib/pkgconfig/gkcntr{,_interop}.pc
 project windows_static CMakeLists.txt
 lines "find for Windows"
 run build/measure.exe

@@ -1,7 +1,7 @@
 # An overlay port: the sources are the tree that it lies in.
 get_filename_component(SOURCE_PATH "${CMAKE_CURRENT_LIST_DIR}/../../.." ABSOLUTE)
 
-vcpkg_check_features(OUT_FEATURE_OPTIONS options FEATURES cairo GKCNTR_CAIRO)
+vcpkg_check_features(OUT_FEATURE_OPTIONS options FEATURES cairo GKCNTR_CAIRO interop GKCNTR_INTEROP)
 vcpkg_cmake_configure(
   SOURCE_PATH "${SOURCE_PATH}"
   OPTIONS ${options} -DGKCNTR_TESTS=OFF -DGKCNTR_EXAMPLES=OFF -DGKCNTR_WERROR=OFF)
