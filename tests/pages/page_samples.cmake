@@ -1,4 +1,4 @@
-# gk_page_samples(PAGE): every C++ sample of a page is a program, built and run; the block behind it is what it prints.
+# gk_page_samples(PAGE [LIBRARY...]): every C++ sample of a page is a program, built and run; the block behind it is what it prints.
 # A sample is a block fenced as cpp, its output one fenced as text. The page is the only place where either is written.
 function(gk_page_samples page)
   set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${page})
@@ -21,7 +21,7 @@ function(gk_page_samples page)
     file(CONFIGURE OUTPUT ${program}.txt CONTENT "${output}" @ONLY)
     add_executable(${program} ${CMAKE_CURRENT_BINARY_DIR}/${program}.cpp)
     gk_compile_options(${program})
-    target_link_libraries(${program} PRIVATE gkcntr::gkcntr)
+    target_link_libraries(${program} PRIVATE gkcntr::gkcntr ${ARGN})
     add_test(NAME Page.${program}PrintsWhatThePageShows
              COMMAND ${CMAKE_COMMAND}
                      "-DPROGRAM=$<TARGET_PROPERTY:${program},CROSSCOMPILING_EMULATOR>;$<TARGET_FILE:${program}>"
