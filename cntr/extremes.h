@@ -12,9 +12,9 @@
 template <class At> gkVector<2> gk_WithSignOfFirst(const gkVector<2>& extreme, std::size_t count, At at) {
     const auto signedZero = [&](double number, auto coordinate) {
         if (number != 0.0) return number;
-        for (std::size_t i = 0; i < count; ++i)
-            if (coordinate(at(i)) == 0.0) return coordinate(at(i));
-        return number;
+        std::size_t first = 0;
+        while (first + 1 < count && coordinate(at(first)) != 0.0) ++first;
+        return coordinate(at(first));
     };
     return gkVector<2>(signedZero(extreme.x(), [](gk_TwoDoubles place) { return place.first(); }),
                        signedZero(extreme.y(), [](gk_TwoDoubles place) { return place.second(); }));

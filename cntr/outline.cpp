@@ -56,11 +56,6 @@ bool gk_Outline::hasCrossingsBeside(long segment, const gkLineSeg& seg, bool inc
     return found == count;
 }
 
-long gk_Outline::insideCount(const gkVector<2>& point, bool bothWays) {
-    if (!box().within(point)) return 0;
-    return search_.insideCount(segments(), point, rayLength(), bothWays);
-}
-
 bool gk_Outline::seesOutside(const gkVector<2>& point, gk_RaysMet& met) {
     if (!box().within(point)) return true;
     return search_.seesOutside(segments(), point, rayLength(), met);
@@ -70,5 +65,6 @@ bool gk_Outline::inside(const gkVector<2>& point) {
     gk_Inside known = search_.insideByScan(segments(), point);
     if (!box().within(point)) return false;
     if (known == gk_Inside::eUnknown) known = search_.insideByCells(segments(), point, rayLength());
-    return known != gk_Inside::eUnknown ? known == gk_Inside::eInside : insideCount(point, false) % 2 == 1;
+    if (known != gk_Inside::eUnknown) return known == gk_Inside::eInside;
+    return search_.insideCount(segments(), point, rayLength(), false) % 2 == 1;
 }

@@ -46,14 +46,13 @@ public:
         return close_ && close_->hasNone(static_cast<std::size_t>(segment));
     }
 
-    // Whether insideCount(point, true) would be 0: a ray or its opposite leaves without a crossing. `met` names
+    // Whether a ray or its opposite leaves without a crossing. `met` names
     // segments to try first and receives those that the rays met.
     bool seesOutside(const gkVector<2>& point, gk_RaysMet& met);
-    // Whether insideCount(point, false) is odd.
+    // Whether a ray leaves with an odd number of crossings.
     bool inside(const gkVector<2>& point);
 
 private:
-    long insideCount(const gkVector<2>& point, bool bothWays);
     template <class Visit>
     void visitCrossingsClose(long segment, const gk_CrossingTest& query, Visit visit) const;
     const gkRect& box();

@@ -266,6 +266,15 @@ TEST(RegionRepairFailure, WithAHandlerThatReturnsTheFirstLoopIsTheResult) {
     }
 }
 
+// The kept box leaves out what is above y = 7, where nothing crosses: the walk then asks those edges nothing.
+TEST(RegionRepair, AsksWithinTheBoxThatIsKeptForAnotherTransform) {
+    const Points tall = points("0 0, 8 6, 8 0, 0 6, 0 20, -4 20, -4 0");
+    const gkRegion asked(tall);
+    const gkRect kept = asked.encloseRect(gkXform<2>(gkMatrix<2>(1.0, 0.0, 0.0, 0.35), gkVector<2>()));
+    EXPECT_EQ(kept, asked.encloseRect(gkXform<2>()));
+    EXPECT_EQ(oracle::regularize(tall), regularized(asked));
+}
+
 // The walk runs into a cycle that its start is not part of.
 class EndlessWalk : public testing::TestWithParam<const char*> {};
 

@@ -221,6 +221,30 @@ TEST(CrossingSearch, CloseSegmentsAreThoseWhoseBoxesAreNear) {
     });
 }
 
+// Long slanting segments beside each other: the boxes of all pairs overlap and none are the same, so neither
+// the tree nor leaving out equal segments saves anything.
+TEST(CrossingSearch, ManySegmentsAcrossEachOthersBoxesAreAskedPairByPair) {
+    constexpr int kTeeth = 60;
+    Points comb;
+    for (int i = 0; i < kTeeth; ++i) {
+        comb.push_back({2.0 * i, 0.0});
+        comb.push_back({2.0 * i + 1000.0, 1000.0});
+    }
+    for (const bool isCut : {false, true}) {
+        Points points = comb;
+        // Home round the outside, or straight across the teeth.
+        if (!isCut)
+            for (const gkVector<2>& corner : Points{{1200, 1100}, {1200, -100}, {-100, -100}})
+                points.push_back(corner);
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        ASSERT_TRUE(tree);
+        const gk_Box box = gk_Box::of(oracle::encloseRect(points, gkXform<2>()));
+        EXPECT_EQ(isCut, oracle::isSelfIntersecting(points, true));
+        EXPECT_EQ(isCut, gk_CrossesItself(outline, *tree, box));
+    }
+}
+
 TEST(CrossingSearch, AsksOnlySegmentsThatReachTheKeptBox) {
     // An eight whose loops cross at (4, 3); a box kept for other coordinates holds none of it.
     const Points eight = {{0, 0}, {8, 6}, {8, 0}, {0, 6}};
@@ -230,6 +254,8 @@ TEST(CrossingSearch, AsksOnlySegmentsThatReachTheKeptBox) {
     EXPECT_TRUE(gk_CrossesItself(outline, *tree, {0, 0, 8, 6}));
     EXPECT_FALSE(gk_CrossesItself(outline, *tree, {20, 20, 30, 30}));
     EXPECT_FALSE(gk_CrossesItself(outline, {20, 20, 30, 30}));
+    EXPECT_TRUE(gk_CrossesItselfByCandidates(outline, {0, 0, 8, 6}));
+    EXPECT_FALSE(gk_CrossesItselfByCandidates(outline, {20, 20, 30, 30}));
 }
 
 TEST(CrossingSearch, ManyCrossingsComeInTheExchangesOrder) {

@@ -21,6 +21,16 @@ void drawOneOfEach(gkUITablet& tablet) {
     tablet.drawImage({18, 19}, {20, 21}, {22, 23}, Tablet::eImageLayer);
 }
 
+TEST(RecordingTablet, IsCopiedWithItsCalls) {
+    gkRecordingTablet tablet;
+    drawOneOfEach(tablet);
+    const gkRecordingTablet copy(tablet);
+    EXPECT_TRUE(tablet.records() == copy.records());
+    gkRecordingTablet assigned;
+    assigned = copy;
+    EXPECT_TRUE(tablet.records() == assigned.records());
+}
+
 TEST(RecordingTablet, KeepsEachKindOfCallInOrder) {
     gkRecordingTablet tablet;
     drawOneOfEach(tablet);

@@ -251,4 +251,15 @@ TEST_F(SvgFile, ThatCannotBeWrittenIsRefused) {
     EXPECT_THROW(tablet.save(directory), gkUITablet::CannotWrite);
 }
 
+#ifndef _WIN32 // where every name is text
+TEST_F(SvgFile, WithANameThatIsNoTextIsRefusedAllTheSame) {
+    try {
+        gkSvgTablet(40, 30).save(directory / "missing" / "\xFF.svg");
+        FAIL() << "not thrown";
+    } catch (const gkUITablet::CannotWrite& error) {
+        EXPECT_EQ(L"cannot write the picture (name cannot be shown)", error.message());
+    }
+}
+#endif
+
 } // namespace

@@ -36,6 +36,10 @@ TEST_F(AssertTest, ThrowsATypedErrorByDefault) {
     }
 }
 
+TEST_F(AssertTest, ShowsThatATextIsNotAscii) {
+    EXPECT_EQ(L"assertion failed: ?? (f:1)", gkAssertionFailed("\xC3\xAF", "f", 1).message());
+}
+
 TEST_F(AssertTest, TakesNullTexts) {
     EXPECT_THROW(gstd_assert_(nullptr, nullptr, 0), gkAssertionFailed);
     EXPECT_STREQ("", gkAssertionFailed(nullptr, nullptr, 0).file());

@@ -57,6 +57,10 @@ TEST(UnknownVersion, CarriesTextAndNumber) {
     EXPECT_STREQ("cntr/contour", copy.text());
 }
 
+TEST(UnknownVersion, ShowsThatATextIsNotAscii) {
+    EXPECT_EQ(L"unknown version: na??ve (1)", gkArchive::UnknownVersion("na\xC3\xAFve", 1).message());
+}
+
 TEST(UnknownVersion, WithoutTextHasAnEmptyOneAndZero) {
     EXPECT_STREQ("", gkArchive::UnknownVersion().text());
     EXPECT_EQ(0, gkArchive::UnknownVersion().number());

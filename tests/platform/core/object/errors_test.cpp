@@ -28,7 +28,8 @@ template <class Error> void check(std::set<long>& numbers) {
 TEST(Errors, HaveTextsAndNumbersOfTheirOwnAndRethrowThemselves) {
     std::set<long> numbers = {gkAssertionFailed("", "", 0).errorNumber()};
     check<gkMathError::Singular>(numbers);
+    check<gkMathError::OutOfRange>(numbers);
     check<gkBadPointer>(numbers);
     check<gkPel::BadWindow>(numbers);
-    EXPECT_EQ(4u, numbers.size());
+    EXPECT_EQ(5u, numbers.size());
 }

@@ -52,6 +52,13 @@ TEST(Persistent, TheVisitedMarkIsKeptForEachObjectAndArchive) {
     EXPECT_FALSE(a.haveVisited(other));
 }
 
+TEST(Persistent, HasNothingOfItsOwnToBuildAnew) {
+    class : public gkPersistent {
+    } object;
+    object.reInit();
+    EXPECT_FALSE(object.isChanged());
+}
+
 TEST(Persistent, TheBaseRecordIsOneByteEachTime) {
     gkArchiveMemory out;
     Plain object;
