@@ -46,8 +46,8 @@ public:
         return close_ && close_->hasNone(static_cast<std::size_t>(segment));
     }
 
-    // Whether a ray or its opposite leaves without a crossing. `met` names
-    // segments to try first and receives those that the rays met.
+    // Whether a ray or its opposite leaves without a crossing. `met` names segments to try first and receives
+    // those that the rays met.
     bool seesOutside(const gkVector<2>& point, gk_RaysMet& met);
     // Whether a ray leaves with an odd number of crossings.
     bool inside(const gkVector<2>& point);
