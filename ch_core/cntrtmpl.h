@@ -29,6 +29,7 @@ template <class Datum> class gkRegionT;
 /// assigning, data and points may no longer belong together. Each is a whole list of a former or new value, or
 /// part of one, questions about the points are answered for the points there are, and setting either list mends
 /// it.
+/// \image html edgelets.svg
 template <class Datum> class gkContourT : public virtual gkContour {
 public:
     using Instantiator = gk_Instantiator;

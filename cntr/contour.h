@@ -118,6 +118,7 @@ public:
     /// Sets `out` to this contour with every vertex mapped by `xform`; closed flag and label are taken over.
     /// `out` gets the default cachedVectorSize 3 whatever this contour's is; the reset is meant. `out` may be
     /// *this.
+    /// \image html map.svg
     void map(const gkXform<2>& xform, gkContour& out) const;
 
     /// Same closed flag, exactly equal vertices, same cachedVectorSize. The label is left out on purpose.
@@ -129,26 +130,29 @@ public:
     /// @{
 
     /// Sum of the segments' lengths; 0 without vertices, never throws for lack of them. Cost: O(n).
+    /// \image html length.svg
     double length() const;
 
     /// Mean of the contour's points, every segment's midpoint weighted by its length.
     ///
     /// NaN or infinite when all vertices coincide (a division by zero). Throws EmptyContour. Cost: O(n).
+    /// \image html mean_position.svg
     gkVector<2> meanPosition() const;
 
     /// The circle over the farthest pair of vertices need not hold every vertex: for an equilateral triangle it
     /// does not.
     ///
-    /// eExact: centre and half distance of the first pair that is farthest apart, O(n log n) where few
-    /// vertices are near the hull. When no pair is
-    /// farther apart than 0 (one vertex, all equal, none) the slot keeps what it held, at first the default
-    /// circle; this is meant. eApproximate: centred on the first vertex and reaching the farthest one, O(n); it
-    /// does hold every vertex. Throws BadParams "diameterMode is not one of the valid enums"; EmptyContour for
-    /// eApproximate without vertices. Vertices with NaN never make a pair.
+    /// eExact: centre and half distance of the first pair that is farthest apart, O(n log n) where few vertices
+    /// are near the hull. When no pair is farther apart than 0 (one vertex, all equal, none) the slot keeps
+    /// what it held, at first the default circle; this is meant. eApproximate: centred on the first vertex and
+    /// reaching the farthest one, O(n); it does hold every vertex. Throws BadParams "diameterMode is not one of
+    /// the valid enums"; EmptyContour for eApproximate without vertices. Vertices with NaN never make a pair.
+    /// \image html diameter_exact.svg
     gkCircle encloseCircle(gkContourDefs::DiameterMode mode) const;
 
     /// Twice the radius of encloseCircle(mode): for eExact the greatest distance between two vertices, for
     /// eApproximate at least that and at most twice as much. Throws as encloseCircle.
+    /// \image html diameter_approximate.svg
     double diameter(gkContourDefs::DiameterMode mode) const;
 
     /// Index of the vertex that lies furthest in the direction `angle`, the lowest index among equals.
@@ -156,9 +160,11 @@ public:
     /// Kept per angle, compared as raw values. Axis directions (cosine and sine within 1e-15) compare the
     /// coordinate itself. -1 when no vertex has a finite score (NaN coordinates). Throws EmptyContour. Cost:
     /// O(n), then O(vertices near the hull).
+    /// \image html extremal_vertex.svg
     long extremalVertexIndex(const gkRadian& angle) const;
 
     /// The vertex at extremalVertexIndex(angle). Throws EmptyContour; BadParams when that index is -1.
+    /// \image html extremal_vertex.svg
     gkVector<2> extremalVertexPosition(const gkRadian& angle) const;
 
     /// Axis-aligned box of the vertices mapped by `xform`, in the transform's output space.
@@ -167,6 +173,7 @@ public:
     /// purpose (see gsSTLLessPredicate). A transform within 1e-15 of the identity takes the vertices as they
     /// are. NaN coordinates are passed over, but one of the first vertex stays. Throws EmptyContour. Cost:
     /// O(n), then O(vertices near the hull).
+    /// \image html enclose_rect_turned.svg
     gkRect encloseRect(const gkXform<2>& xform) const;
 
     /// Sets `out` to the convex hull of the vertices: counter-clockwise from the lowest x, without collinear
@@ -174,12 +181,14 @@ public:
     ///
     /// Fewer than 3 vertices remain for degenerate input. Vertices with NaN or infinities are left out. `out`
     /// may be *this. Throws EmptyContour. Cost: O(n log n). Source: Andrew's monotone chain, 1979.
+    /// \image html convex_hull.svg
     void convexHull(gkRegion& out) const;
 
     /// The ellipse fitted to the vertices and its error, as gf_FitEllipse; on a throw the outputs stay as they
     /// were.
     ///
     /// Throws EmptyContour and what the fitter throws. Cost: O(n).
+    /// \image html fit_ellipse.svg
     void fitEllipse(gkEllipse& ellipse, double& error) const;
     /// @}
 
@@ -191,14 +200,17 @@ public:
     /// On the first of equally near segments; a segment of length zero counts as its point. (0, 0) when no
     /// segment has a distance below infinity (NaN or infinite coordinates). Throws EmptyContour. Cost: O(n),
     /// then O(log n). Source: Ericson, Real-Time Collision Detection, 5.1.2.
+    /// \image html closest_point.svg
     gkVector<2> closestPoint(const gkVector<2>& p, bool verticesOnly) const;
 
     /// Index of the vertex nearest to `p`, the lowest among equals; 0 when no distance is below infinity.
     /// Throws EmptyContour. Cost: O(n), then O(log n).
+    /// \image html closest_vertex.svg
     long closestVertexIndex(const gkVector<2>& p) const;
 
     /// Distance from `p` to closestPoint(p, verticesOnly). Being inside does not make it zero. Throws
     /// EmptyContour.
+    /// \image html distance.svg
     double distToPoint(const gkVector<2>& p, bool verticesOnly) const;
 
     /// Indices of all vertices strictly nearer to `p` than `tolerance`, which must be above 0.
@@ -207,6 +219,7 @@ public:
     /// within a cell: not sorted overall. Throws EmptyContour; where a coordinate divided by the tolerance is
     /// NaN, gstd_assert_ is called. Cost: O(n) for a new tolerance, then O(log n + k log k) for k vertices near
     /// `p`.
+    /// \image html vertex_index.svg
     std::vector<int> vertexIndex(const gkVector<2>& p, double tolerance) const;
     /// @}
 
@@ -222,11 +235,13 @@ public:
     /// identity only in element (1,1), that box is the one used. This is meant. Throws EmptyContour. Cost:
     /// O(n), then O(log n + segments beside `seg`); and O(k log k) for k crossings, up to O(k^2) where
     /// some are equally far along `seg`.
+    /// \image html crossings_segment.svg
     std::vector<gkVector<2>> intersections(const gkLineSeg& seg, bool includeEnds) const;
 
     /// The crossings of every segment of `other` with this contour, concatenated in the order of other's
     /// segments, ends included. `other` may have any number of vertices. Throws EmptyContour. Cost:
     /// O((n + m) log n + crossings), O(n m) for small contours.
+    /// \image html crossings_contour.svg
     std::vector<gkVector<2>> intersections(const gkContour& other) const;
 
     /// True when a segment of the contour crosses another one that does not touch its ends (within 1e-6).
@@ -234,6 +249,7 @@ public:
     /// A vertex lying on another segment is found from that segment's side; collinear overlaps are not found.
     /// False for fewer than 2 vertices; never throws for the contour's shape. Cost: O(n log n) and the
     /// pairs of segments that are near each other; kept.
+    /// \image html crosses_itself.svg
     bool isSelfIntersecting() const;
     /// @}
 

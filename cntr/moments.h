@@ -105,6 +105,7 @@ GKCNTR_API gk_InertiaData gf_InertiaDataPolygon(const std::vector<gkVector<2>>& 
 /// not be the larger one. gkMathError::Singular when a principal moment is within 1e-12 of zero (collinear
 /// pieces, the zero record). Source: the moments of a solid ellipse, pi a^3 b / 4 and pi a b^3 / 4, solved for
 /// a and b.
+/// \image html moments_ellipse.svg
 GKCNTR_API gkEllipse gf_EllipseFromInertiaData(const gk_InertiaData& data);
 
 /// Fits an ellipse to the points and tells the root mean square distance of the points to it.

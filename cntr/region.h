@@ -84,6 +84,7 @@ public:
     using gkContour::map;
     /// Sets `result` to the mapped outline with this label. Holes are not mapped, on purpose: `result` has
     /// none. The new outline is not looked at for crossings. `result` may be *this.
+    /// \image html map.svg
     void map(const gkXform<2>& xform, gkRegion& result) const;
 
     using gkContour::draw;
@@ -96,6 +97,7 @@ public:
 
     /// Area inside the outline (gf_Area) or, with `considerHoles`, that minus the area of every hole's outline.
     /// Kept.
+    /// \image html area_with_holes.svg
     double area(bool considerHoles) const;
 
     /// Centroid of the area inside the outline (gf_CenterOfMass), kept.
@@ -103,11 +105,13 @@ public:
     /// With `considerHoles` and holes, the area-weighted difference; a quirk that is kept on purpose: the first
     /// call after a change returns it, later calls return a stored field that is never written, (0, 0) unless
     /// copied from elsewhere. Infinite or NaN when the holes take all the area.
+    /// \image html center_of_mass.svg
     gkVector<2> centerOfMass(bool considerHoles) const;
 
     /// Central second moments of the area inside the outline (gf_InertiaDataPolygon), kept.
     ///
     /// With `considerHoles` and holes throws BadParams "inertiaMatrix(considerHoles) is not implemented".
+    /// \image html moments_ellipse.svg
     gkMatrix<2> inertiaMatrix(bool considerHoles) const;
     /// @}
 
@@ -123,6 +127,7 @@ public:
     /// (with its own holes considered) is outside; holes that contain each other in a ring throw BadParams.
     /// Throws EmptyContour below 2 vertices. Cost: O(n), then a look
     /// into a grid; O(n log n) for a point within about n / 10^5 of a vertex, or where the ray may end inside.
+    /// \image html inside.svg
     bool inside(const gkVector<2>& point, bool considerHoles) const;
 
     /// Index of the outline's nearest vertex, as gkContour.
@@ -168,6 +173,7 @@ public:
 
     /// Sets `result` to the boundary that a walk around the outline meets, turning at every crossing: one
     /// outline, which may touch itself in single points.
+    /// \image html regularize.svg
     void regularize(gkRegion& result) const;
     /// Sets `result` to that boundary cut at every vertex it visits twice, without the loops that lie inside
     /// others, joined again where they share a vertex.
@@ -175,6 +181,7 @@ public:
     /// EmptyContour when a cut leaves a loop of one vertex, as repeated vertices do. When loops remain that
     /// share no vertex, gstd_assert_ is called with line 618; when its handler returns, the first is the
     /// result.
+    /// \image html outer_hull.svg
     void outerHull(gkRegion& result) const;
     /// @}
 

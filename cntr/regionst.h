@@ -84,6 +84,7 @@ public:
     bool inside(const gkVector<2>& point, bool considerHoles) const;
     /// Least of the regions' distances; NaN distances are passed over. Keeps no answer, as inside(). Throws
     /// EmptyRegionSet.
+    /// \image html set_distance.svg
     double distToPoint(const gkVector<2>& point, bool verticesOnly, bool considerHoles, bool zeroInside) const;
     /// Box of all outlines under the transform, kept as gkContour::encloseRect keeps its own. Throws
     /// EmptyRegionSet.
@@ -104,6 +105,7 @@ public:
     /// unmerged; this is meant. Throws what the regions' splice and repair throw. docs/repair.md shows it.
     void regularize(gkRegionSet& result) const;
     /// The same with each region's outer hull.
+    /// \image html set_merge.svg
     void outerHull(gkRegionSet& result) const;
 
     /// Draws every region, in order (gkRegion::draw, which draws nothing for a plain region).
