@@ -45,6 +45,7 @@ private:
 
     // Which triangles a pass takes is as good as random, so they are listed without branches, some at a time.
     void addThoseOf(int pass) {
+        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
         std::array<const gk_InertiaPiece*, 64> listed;
         for (std::size_t begin = 0; begin < triangles_.size() && added_ < triangles_.size();
              begin += listed.size()) {

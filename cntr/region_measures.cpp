@@ -95,7 +95,7 @@ long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
 bool gkRegion::insideOutline(const gkVector<2>& point) const {
     const gk_OneThread here(*this);
     const gk_Segments outline(points(), true);
-    // A kept box has been checked for, and nothing new is kept on the way.
+    // Only an outline that has vertices enough has a kept box, so nothing is left to check.
     if (const gkRect* const box = keptBox()) {
         if (!box->within(point)) return false;
         const gk_OutlineSearch* const asked = knownSearch();

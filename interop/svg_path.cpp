@@ -72,6 +72,7 @@ gkRegion gnSvgPath::readRegion(std::string_view text) { return regionOf(gk_Text(
 
 gkRegionSet gnSvgPath::readRegionSet(const std::vector<std::string>& texts) {
     std::vector<gkPtrHandle_const<gkRegion>> regions;
+    regions.reserve(texts.size());
     for (const std::string& text : texts) regions.emplace_back(new gkRegion(readRegion(text)));
     return gkRegionSet(regions);
 }

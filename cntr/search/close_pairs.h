@@ -24,6 +24,7 @@ public:
 
 private:
     // Some of a run's segments.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
     class Reached {
     public:
         void addIf(bool isReached, std::size_t segment) {
@@ -34,7 +35,6 @@ private:
         const std::size_t* end() const { return segments_.data() + count_; }
 
     private:
-        // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): each is set before it is read
         std::array<std::size_t, gk_SegmentTree::kRun + 1> segments_;
         std::size_t count_ = 0;
     };

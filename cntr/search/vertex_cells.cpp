@@ -37,7 +37,7 @@ public:
         const bool inBlock = middle_.column - 1 <= cell.column && cell.column <= middle_.column + 1 &&
                              middle_.row - 1 <= cell.row && cell.row <= middle_.row + 1;
         if (inBlock && gk_VectorOps::distance(vertex, p_) < tolerance_)
-            found_.push_back({cell.column, cell.row, gk_IndexAs<int>(index)});
+            found_.emplace_back(cell.column, cell.row, gk_IndexAs<int>(index));
     }
 
     std::vector<int> ordered() {

@@ -188,6 +188,7 @@ bool gk_EllipseFrame::fourSquares(const gkVector<2>* points, std::array<double, 
 
 double gk_EllipseFrame::sumOfSquares(const std::vector<gkVector<2>>& points) const {
     double sum = 0.0;
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): set before it is read
     std::array<double, 4> squares;
     const auto ask = [&](const gkVector<2>* four) {
         if (fourSquares(four, squares)) return;

@@ -196,6 +196,7 @@ Ends endsOf(const Points& points, const std::vector<gk_HullBox>& runs, const gk_
 
 } // namespace
 
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init): the box is set below
 gk_HullSieve::gk_HullSieve(const Points& points) : points_(points), runs_((points.size() + kRun - 1) / kRun) {
     Extremes all{gk_TwoDoubles(kInfinity), gk_TwoDoubles(-kInfinity), gk_TwoDoubles()};
     const std::size_t full = points.size() / kRun;

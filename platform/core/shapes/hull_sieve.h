@@ -22,9 +22,9 @@ public:
         Indices upper; // and back
     };
     struct OuterRuns {
-        Indices runs;    // some twice
-        Points corners;  // points far out
-        bool areTelling; // false where the boxes are too large for the runs to be near the hull
+        Indices runs;            // some twice
+        Points corners;          // points far out
+        bool areTelling = false; // not where the boxes are too large for the runs to be near the hull
     };
 
     static constexpr std::size_t kRun = 8; // points
