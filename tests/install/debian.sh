@@ -9,7 +9,7 @@ mkdir -p "$1"
 debian=$(realpath "$1")/debian
 shift
 release=$(. /etc/os-release && echo "$VERSION_CODENAME")
-mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' "Codename: $release" | head -n 1)
+mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' "Codename: $release" | sed -n 1p)
 
 leave() {
     ! mountpoint -q "$debian/proc" || umount "$debian/proc"

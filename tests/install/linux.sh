@@ -16,7 +16,7 @@ lines install
     lib/pkgconfig/gkcntr{,_cairo,_interop}.pc
 mv "$prefix" "$room/moved" # nothing in it depends on where it lies
 export prefix=$room/moved
-readelf -d "$prefix/lib/libgkcntr.so" | grep -q 'soname: \[libgkcntr.so.0\]'
+grep -q 'soname: \[libgkcntr.so.0\]' < <(readelf -d "$prefix/lib/libgkcntr.so") || failed "the SONAME"
 
 project installed CMakeLists.txt
 lines find
@@ -65,5 +65,5 @@ project fetched "CMakeLists.txt of the whole"
 block FetchContent >fetch.cmake
 sed -i 's/^add_subdirectory(gkcntr)$/include(fetch.cmake)/' CMakeLists.txt
 cmake -S . -B build >"$room/log" 2>&1 || failed FetchContent
-grep -q measure: <(ninja -C build -t targets all)
+grep -q measure: <(ninja -C build -t targets all) || failed "FetchContent: no target"
 echo "FetchContent"

@@ -14,7 +14,8 @@ runtime="Z:$(dirname "$($compiler -print-file-name=libstdc++-6.dll)");Z:$(dirnam
 run() { # program, folder of gkcntr.dll or nothing
     WINEPATH="$runtime${2:+;Z:$2}" "$run" "$1" >>"$room/log" 2>&1 || failed "$1"
 }
-needs_dll() { x86_64-w64-mingw32-objdump -p "$1" | grep -q 'DLL Name: gkcntr.dll'; }
+# Not through a pipe: grep is content with the first match, and objdump, still writing, would fail.
+needs_dll() { grep -q 'DLL Name: gkcntr.dll' < <(x86_64-w64-mingw32-objdump -p "$1"); }
 
 # One server for all programs, until this script ends.
 export GK_WINE_PREFIX=${GK_WINE_PREFIX:-$gkcntr/build/wine}
@@ -35,12 +36,12 @@ project windows CMakeLists.txt
 lines "find for Windows"
 run build/measure.exe "$prefix/bin"
 printed "find_package, installed and moved"
-needs_dll build/measure.exe
+needs_dll build/measure.exe || failed "build/measure.exe does not need gkcntr.dll"
 project windows_pc CMakeLists.txt
 lines "pkg-config for Windows"
 run measure.exe "$prefix/bin"
 printed "pkg-config"
-needs_dll measure.exe
+needs_dll measure.exe || failed "measure.exe does not need gkcntr.dll"
 
 in_build() { # preset: a program that uses the folder of a build
     cmake -S . -B build -DCMAKE_TOOLCHAIN_FILE="$gkcntr/cmake/windows/mingw64.cmake" \
