@@ -9,6 +9,7 @@
 #include "cntr/contour.h"
 #include "cntr/contour_defs.h"
 #include "cntr/kept.h"
+#include "cntr/kept_boxes.h"
 #include "cntr/kept_map.h"
 #include "cntr/moments.h"
 #include "cntr/region.h"

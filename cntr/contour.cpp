@@ -181,9 +181,10 @@ void gkContour::cleanCacheInfo() {
     caches_.length = gk_Kept<double>();
     caches_.selfIntersecting.valid = false;
     // The circles stay, only their flags go: encloseCircle may answer with a circle from before.
-    for (gk_Kept<gkCircle>& circle : caches_.circles) circle.valid = false;
+    caches_.circleAroundFirst.valid = false;
     Rare* const rare = caches_.rare.get();
     if (rare == nullptr) return;
+    rare->exactCircle.valid = false;
     rare->meanPosition.valid = false;
     rare->convexHull.valid = false;
     rare->extremalVertices.clear();

@@ -6,6 +6,7 @@
 #include "cntr/change_mark.h"
 #include "cntr/contour_defs.h"
 #include "cntr/kept.h"
+#include "cntr/kept_boxes.h"
 #include "cntr/kept_map.h"
 #include "platform/core/math/angle.h"
 #include "platform/core/math/pair.h"
@@ -291,7 +292,7 @@ protected:
     /// The same if there is one already, else null.
     const gk_OutlineSearch* knownSearch() const { return caches_.search.get(); }
     /// The box kept under the identity's key, null when there is none.
-    const gkRect* keptBox() const { return caches_.encloseRects.find(gkXform<2>()); }
+    const gkRect* keptBox() const { return caches_.encloseRects.underIdentity(); }
 
 private:
     friend class gk_RegionBoxes;
@@ -308,11 +309,12 @@ private:
         double error = 0.0;
     };
 
-    using RectMap = gk_KeptMap<gkXform<2>, gkRect, gsSTLLessPredicate>;
+    using RectMap = gk_KeptBoxes<gsSTLLessPredicate>;
     using ExtremalMap = gk_KeptMap<gkRadian, std::int32_t, gsSTLLessPredicate>;
 
     /// What few contours are asked for.
     struct Rare {
+        gk_Kept<gkCircle> exactCircle; // outlives its flag: the search may leave the last
         gk_Kept<gkVector<2>> meanPosition;
         gk_Kept<gkPtrHandle<gkRegion>> convexHull; // the last hull stays alive until it is replaced
         ExtremalMap extremalVertices;
@@ -329,8 +331,7 @@ private:
         gk_Kept<double> length;
         gk_Kept<bool> selfIntersecting;
         gk_ChangeMark mark;
-        gk_Kept<gkCircle>
-            circles[2]; // by DiameterMode; outlive their flags: the exact search may leave the last
+        gk_Kept<gkCircle> circleAroundFirst; // outlives its flag, as the exact one does
         RectMap encloseRects;
         gk_Owned<gk_SegmentCache> segments;
         gk_Owned<gk_OutlineSearch> search;

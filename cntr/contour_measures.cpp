@@ -36,7 +36,8 @@ gkCircle gkContour::encloseCircle(gkContourDefs::DiameterMode mode) const {
     if (mode != gkContourDefs::eExact && mode != gkContourDefs::eApproximate) {
         throw gkContourDefs::BadParams(L"diameterMode is not one of the valid enums");
     }
-    gk_Kept<gkCircle>& kept = caches_.circles[mode];
+    gk_Kept<gkCircle>& kept =
+        mode == gkContourDefs::eExact ? caches_.rare.made().exactCircle : caches_.circleAroundFirst;
     if (kept.valid) return kept.value;
     if (mode == gkContourDefs::eExact) {
         gk_OutlineSearch::circleOverFarthestPair(value_.points, kept.value);
@@ -59,8 +60,8 @@ long gkContour::extremalVertexIndex(const gkRadian& angle) const {
     ExtremalMap& known = caches_.rare.made().extremalVertices;
     if (const std::int32_t* const kept = known.find(angle)) return *kept;
     const long index = search().extremalVertex(value_.points, angle);
-    gk_InsertBounded(known, angle, static_cast<std::int32_t>(index),
-                     static_cast<std::size_t>(cachedVectorSize()));
+    gk_InsertBounded<gsSTLLessPredicate>(known, angle, static_cast<std::int32_t>(index),
+                                         static_cast<std::size_t>(cachedVectorSize()));
     mutating();
     return index;
 }
@@ -79,7 +80,8 @@ gkRect gkContour::encloseRect(const gkXform<2>& xform) const {
                             ? search().encloseRect(value_.points, xform)
                             : gk_EncloseRect(value_.points, xform);
     noteNewBox(xform);
-    gk_InsertBounded(caches_.encloseRects, xform, rect, static_cast<std::size_t>(cachedVectorSize()));
+    gk_InsertBounded<gsSTLLessPredicate>(caches_.encloseRects, xform, rect,
+                                         static_cast<std::size_t>(cachedVectorSize()));
     mutating();
     return rect;
 }
@@ -88,11 +90,9 @@ gkRect gkContour::encloseRect(const gkXform<2>& xform) const {
 // identity's key, or push the identity's box out, after which it would have to be asked for again.
 void gkContour::noteNewBox(const gkXform<2>& xform) const {
     if (!caches_.mark.isSet()) return;
-    const gsSTLLessPredicate isLess;
-    const gkXform<2> identity;
-    const bool hasItsKey = !isLess(xform, identity) && !isLess(identity, xform);
     const bool pushesOut = caches_.encloseRects.size() > static_cast<std::size_t>(cachedVectorSize());
-    if (hasItsKey ? xform.matrix().element(1, 1) != 1.0 : pushesOut) caches_.mark.noteChange();
+    if (RectMap::isIdentitysKey(xform) ? xform.matrix().element(1, 1) != 1.0 : pushesOut)
+        caches_.mark.noteChange();
 }
 
 void gkContour::convexHull(gkRegion& out) const {

@@ -31,17 +31,19 @@ public:
     void erase(std::size_t position) {
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(position));
     }
+    /// The next insert asks for no memory.
+    void makeRoom() { entries_.reserve(entries_.size() + 1); }
 
-private:
-    using Entry = std::pair<Key, Value>;
-    using Entries = std::vector<Entry>;
-
-    // The first place whose key is not less.
+    /// The first position whose key is not less.
     std::size_t placeOf(const Key& key) const {
         std::size_t place = 0;
         while (place < entries_.size() && Less()(entries_[place].first, key)) ++place;
         return place;
     }
+
+private:
+    using Entry = std::pair<Key, Value>;
+    using Entries = std::vector<Entry>;
 
     Entries entries_;
 };

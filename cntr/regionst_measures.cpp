@@ -75,7 +75,8 @@ gkRect gkRegionSet::encloseRect(const gkXform<2>& xform) const {
     if (const gkRect* const kept = caches_.encloseRects.find(xform)) return *kept;
     gkRect rect = regions_.front()->encloseRect(xform);
     for (std::size_t i = 1; i < regions_.size(); ++i) rect = rect.enclose(regions_[i]->encloseRect(xform));
-    gk_InsertBounded(caches_.encloseRects, xform, rect, static_cast<std::size_t>(cachedVectorSize_));
+    gk_InsertBounded<gkContour::gsSTLLessPredicate>(caches_.encloseRects, xform, rect,
+                                                    static_cast<std::size_t>(cachedVectorSize_));
     mutating();
     return rect;
 }

@@ -156,6 +156,16 @@ def kept_map_parts(value):
         yield "value %d" % index, entry["second"]
 
 
+def kept_boxes(value):
+    return "%d kept" % (read.flag(value["identitys_"]["valid"]) + read.vector(value["others_"]["entries_"])[1])
+
+
+def kept_boxes_parts(value):
+    if read.flag(value["identitys_"]["valid"]):
+        yield "under the identity", value["identitys_"]["value"]
+    yield from kept_map_parts(value["others_"])
+
+
 def valid_results(caches):
     """Name and value of each result that is kept, found by their classes, whatever their names."""
     for field in read.plain(caches.type).fields():
@@ -175,6 +185,9 @@ def valid_result(name, slot):
                 yield name, slot["value"]
         elif class_name.startswith("gk_KeptMap<"):
             if read.vector(slot["entries_"])[1]:
+                yield name, slot
+        elif class_name.startswith("gk_KeptBoxes<"):
+            if any(True for _ in kept_boxes_parts(slot)):
                 yield name, slot
         elif class_name.startswith("gk_Owned<") and class_name.endswith("::Rare>"):
             rare = read.owned(slot)
@@ -327,6 +340,7 @@ CLASSES = {
     "gk_Kept<": (kept, kept_parts),
     "gk_Owned<": (owned, owned_parts),
     "gk_KeptMap<": (kept_map, kept_map_parts),
+    "gk_KeptBoxes<": (kept_boxes, kept_boxes_parts),
     "gkContour": (contour, contour_parts),
     "gkRegion": (region, region_parts),
     "gkRegionSet": (region_set, set_parts),

@@ -49,7 +49,7 @@ class Printers(unittest.TestCase):
     def test_contours_show_what_they_keep(self):
         self.shows("measured",
                    "closed contour of 3 vertices, label 1 = {kept length = 12, "
-                   "kept encloseRects = 1 kept = {key 0 = [1 0; 0 1] + (0, 0), value 0 = (0, 0) .. (4, 3)}, "
+                   "kept encloseRects = 1 kept = {under the identity = (0, 0) .. (4, 3)}, "
                    "kept extremalVertices = 1 kept = {key 0 = 0 rad, value 0 = 1}, "
                    "[0] = (0, 0), [1] = (4, 0), [2] = (0, 3)}")
 
@@ -57,9 +57,9 @@ class Printers(unittest.TestCase):
         self.shows("measured.caches_.length", "kept = {value = 12}")
         self.shows("measured.caches_.selfIntersecting", "not kept")
         self.shows("measured.caches_.encloseRects",
-                   "1 kept = {key 0 = [1 0; 0 1] + (0, 0), value 0 = (0, 0) .. (4, 3)}")
+                   "1 kept = {under the identity = (0, 0) .. (4, 3)}")
         self.shows("triangle.caches_.rare", "none")
-        self.assertTrue(shown("measured.caches_.rare").startswith("owned = {object = {meanPosition = not kept, "))
+        self.assertTrue(shown("measured.caches_.rare").startswith("owned = {object = {exactCircle = not kept, "))
 
     def test_handles_tell_their_holders_and_the_object_s_own_class(self):
         self.shows("hole", "2 handles of gkRegion = {object = region of 3 vertices, label 0 = "
@@ -72,7 +72,7 @@ class Printers(unittest.TestCase):
         self.shows("region",
                    "region of 4 vertices, 1 hole, label 0 = {hole 0 = 2 handles of gkRegion = {object = "
                    "region of 3 vertices, label 0 = {[0] = (1, 1), [1] = (2, 1), [2] = (1, 2)}}, kept area = 81, "
-                   "kept encloseRects = 1 kept = {key 0 = [1 0; 0 1] + (0, 0), value 0 = (0, 0) .. (9, 9)}, "
+                   "kept encloseRects = 1 kept = {under the identity = (0, 0) .. (9, 9)}, "
                    "[0] = (0, 0), [1] = (9, 0), [2] = (9, 9), [3] = (0, 9)}")
 
     def test_sets_have_their_regions_below(self):
