@@ -82,11 +82,12 @@ std::vector<gk_Crossing> gk_Crossings(const gk_Segments& outline, const gk_Segme
     if (!isModerate(query.segment())) return gk_Crossings(outline, query);
     const gk_LineSide side = sideOf(query.segment(), tree);
     std::vector<std::uint32_t> runs;
-    tree.any([&](const gk_Box& box) { return box.overlaps(query.box()) && !side.rejects(box); },
-             [&](std::uint32_t run) {
-                 runs.push_back(run);
-                 return false;
-             });
+    tree.anyOverlapping(
+        query.box(), [&](const gk_Box& box) { return !side.rejects(box); },
+        [&](std::uint32_t run) {
+            runs.push_back(run);
+            return false;
+        });
     std::sort(runs.begin(), runs.end());
     std::vector<gk_Crossing> crossings;
     for (const std::uint32_t run : runs) append(outline, tree.segmentsOf(run), query, crossings);
@@ -104,11 +105,12 @@ std::size_t gk_CountCrossings(const gk_Segments& outline, const gk_SegmentTree& 
     if (!isModerate(query.segment())) return gk_CountCrossings(outline, query, most);
     const gk_LineSide side = sideOf(query.segment(), tree);
     std::size_t count = 0;
-    tree.any([&](const gk_Box& box) { return box.overlaps(query.box()) && !side.rejects(box); },
-             [&](std::uint32_t run) {
-                 countCrossings(outline, tree.segmentsOf(run), query, most, count);
-                 return count == most;
-             });
+    tree.anyOverlapping(
+        query.box(), [&](const gk_Box& box) { return !side.rejects(box); },
+        [&](std::uint32_t run) {
+            countCrossings(outline, tree.segmentsOf(run), query, most, count);
+            return count == most;
+        });
     return count;
 }
 
@@ -128,11 +130,12 @@ bool gk_MeetsAny(const gk_Segments& outline, const gk_SegmentTree& tree, const g
         return true;
     if (!isModerate(query.segment())) return meets(0, outline.size());
     const gk_LineSide side = sideOf(query.segment(), tree);
-    return tree.any([&](const gk_Box& box) { return box.overlaps(query.box()) && !side.rejects(box); },
-                    [&](std::uint32_t run) {
-                        const gk_SegmentTree::Range range = tree.segmentsOf(run);
-                        return meets(range.begin, range.end);
-                    });
+    return tree.anyOverlapping(
+        query.box(), [&](const gk_Box& box) { return !side.rejects(box); },
+        [&](std::uint32_t run) {
+            const gk_SegmentTree::Range range = tree.segmentsOf(run);
+            return meets(range.begin, range.end);
+        });
 }
 
 bool gk_CrossesItself(const gk_Segments& outline, const gk_Box& box) {

@@ -74,13 +74,12 @@ private:
 bool isOnVertex(const gk_Segments& outline, const gk_SegmentTree& tree, const gkVector<2>& point,
                 double slack) {
     const gk_Box around = gk_Box::of(point, point).grownBy(2.0 * kOnVertex + slack);
-    return tree.any([&](const gk_Box& box) { return box.overlaps(around); },
-                    [&](std::size_t run) {
-                        const gk_SegmentTree::Range range = tree.verticesOf(run);
-                        for (std::size_t i = range.begin; i < range.end; ++i)
-                            if (isOn(outline.vertex(i) - point)) return true;
-                        return false;
-                    });
+    return tree.anyOverlapping(around, [&](std::size_t run) {
+        const gk_SegmentTree::Range range = tree.verticesOf(run);
+        for (std::size_t i = range.begin; i < range.end; ++i)
+            if (isOn(outline.vertex(i) - point)) return true;
+        return false;
+    });
 }
 
 // The least of all vertex directions above `after`, counted from the x direction; none when there is none.

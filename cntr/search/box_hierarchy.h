@@ -25,20 +25,35 @@ public:
     // Calls visit(leaf) for every leaf whose box, and whose every box above, wanted(box) accepts. In no order.
     // A visit that returns true ends it; tells whether one did.
     template <class Wanted, class Visit> bool any(Wanted wanted, Visit visit) const {
-        Pending pending;
-        if (wanted(box())) pending.push({top(), 0, 0.0});
-        while (!pending.empty()) {
-            const Node node = pending.pop();
-            if (node.level == 0) {
-                if (visit(node.position)) return true;
-                continue;
+        const auto choose = [&](const gk_EightBoxes& boxes, unsigned among) {
+            unsigned chosen = 0;
+            for (; among != 0; among &= among - 1) {
+                const std::size_t i = gk_LowestBit(among);
+                chosen |= (wanted(boxes.box(i)) ? 1u : 0u) << i;
             }
-            const gk_EightBoxes& below = under(node.level, node.position);
-            const std::size_t count = countUnder(node.level, node.position);
-            for (std::size_t i = 0; i < count; ++i)
-                if (wanted(below.box(i))) pending.push({node.level - 1, node.position * kFan + i, 0.0});
-        }
-        return false;
+            return chosen;
+        };
+        return wanted(box()) && anyChosen(choose, visit);
+    }
+
+    // The same for boxes that overlap the given one and are wanted besides.
+    template <class Wanted, class Visit>
+    bool anyOverlapping(const gk_Box& other, Wanted wanted, Visit visit) const {
+        const auto choose = [&](const gk_EightBoxes& boxes, unsigned among) {
+            among &= boxes.overlapping(other);
+            unsigned chosen = among;
+            for (; among != 0; among &= among - 1) {
+                const std::size_t i = gk_LowestBit(among);
+                if (!wanted(boxes.box(i))) chosen ^= 1u << i;
+            }
+            return chosen;
+        };
+        return box().overlaps(other) && wanted(box()) && anyChosen(choose, visit);
+    }
+
+    template <class Visit> bool anyOverlapping(const gk_Box& other, Visit visit) const {
+        return anyOverlapping(
+            other, [](const gk_Box&) { return true; }, visit);
     }
 
     // Calls visit(leaf) for the leaves in no order but that those near p tend to come first, as far as the
@@ -124,6 +139,28 @@ private:
         std::array<Node, 12 * kFan> nodes_;
         std::size_t size_ = 0;
     };
+
+    // Of a hierarchy whose box at the top is wanted; choose(eight boxes, bits) gives those bits whose boxes
+    // are.
+    template <class Choose, class Visit> bool anyChosen(Choose choose, Visit visit) const {
+        if (top() == 0) return visit(std::size_t{0});
+        Pending pending;
+        pending.push({top(), 0, 0.0});
+        while (!pending.empty()) {
+            const Node node = pending.pop();
+            const std::size_t first = node.position * kFan;
+            const unsigned all = (1u << countUnder(node.level, node.position)) - 1u;
+            unsigned chosen = choose(under(node.level, node.position), all);
+            for (; chosen != 0; chosen &= chosen - 1) {
+                const std::size_t position = first + gk_LowestBit(chosen);
+                if (node.level > 1)
+                    pending.push({node.level - 1, position, 0.0});
+                else if (visit(position))
+                    return true;
+            }
+        }
+        return false;
+    }
 
     static void pushNearestLast(Pending& pending, std::size_t level, std::size_t first,
                                 const gk_EightBoxes::Numbers& keys, std::size_t count, double limit) {

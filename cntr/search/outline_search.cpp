@@ -188,8 +188,7 @@ bool gk_OutlineSearch::mayCross(const gk_Segments& outline, const gk_Box& box) {
     const gk_SegmentTree* const index = tree(outline);
     const bool isBox = box.x0 <= box.x1 && box.y0 <= box.y1; // not with a NaN
     if (index == nullptr || !isBox) return true;
-    return index->any([&](const gk_Box& other) { return other.overlaps(box); },
-                      [](std::size_t) { return true; });
+    return index->anyOverlapping(box, [](std::size_t) { return true; });
 }
 
 bool gk_OutlineSearch::crossesItself(const gk_Segments& outline, const gk_Box& keptBox) {

@@ -29,10 +29,10 @@ public:
     // Greatest |coordinate|.
     double reach() const { return reach_; }
 
-    // The regions whose boxes wanted(box) accepts, in list order.
-    template <class Wanted> std::vector<std::uint32_t> find(Wanted wanted) const {
+    // The regions whose boxes overlap the given one, in list order.
+    std::vector<std::uint32_t> overlapping(const gk_Box& box) const {
         std::vector<std::uint32_t> found;
-        boxes_.any(wanted, [&](std::size_t leaf) {
+        boxes_.anyOverlapping(box, [&](std::size_t leaf) {
             found.push_back(numbers_[leaf]);
             return false;
         });

@@ -41,6 +41,13 @@ public:
     template <class Wanted, class Visit> bool any(Wanted wanted, Visit visit) const {
         return boxes_.any(wanted, [&](std::size_t leaf) { return visit(runs_[leaf]); });
     }
+    template <class Wanted, class Visit>
+    bool anyOverlapping(const gk_Box& box, Wanted wanted, Visit visit) const {
+        return boxes_.anyOverlapping(box, wanted, [&](std::size_t leaf) { return visit(runs_[leaf]); });
+    }
+    template <class Visit> bool anyOverlapping(const gk_Box& box, Visit visit) const {
+        return boxes_.anyOverlapping(box, [&](std::size_t leaf) { return visit(runs_[leaf]); });
+    }
     template <class Nearness, class Limit, class Visit>
     void nearestFirst(Nearness nearness, Limit limit, Visit visit) const {
         boxes_.nearestFirst(nearness, limit, [&](std::size_t leaf) { visit(runs_[leaf]); });

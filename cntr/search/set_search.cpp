@@ -46,7 +46,7 @@ bool gk_SetSearch::inside(const gk_Regions& regions, const gkVector<2>& point, b
             if (region->inside(point, considerHoles)) return true;
         return false;
     }
-    for (const std::uint32_t i : index->find([&](const gk_Box& box) { return box.holds(point); })) {
+    for (const std::uint32_t i : index->overlapping(gk_Box::of(point, point))) {
         askBoxes(regions, i + std::size_t{1});
         if (regions[i]->inside(point, considerHoles)) return true;
     }
@@ -77,7 +77,7 @@ double gk_SetSearch::distToPoint(const gk_Regions& regions, const gkVector<2>& p
     // Only holes of a region around the point can throw here, and do so in list order.
     std::vector<std::uint32_t> around;
     if (zeroInside) {
-        around = index->find([&](const gk_Box& box) { return box.holds(point); });
+        around = index->overlapping(gk_Box::of(point, point));
         for (const std::uint32_t i : around) {
             askBoxes(regions, i + std::size_t{1});
             ask(i);
@@ -107,7 +107,7 @@ bool gk_SetSearch::anyTwoMeet(const gk_Regions& regions) {
             continue;
         }
         const gk_Box box = gk_Box::of(regions[i]->encloseRect(gkXform<2>()));
-        for (const std::uint32_t j : index->find([&](const gk_Box& other) { return other.overlaps(box); }))
+        for (const std::uint32_t j : index->overlapping(box))
             if (j > i && meet(i, j)) return true;
     }
     return false;

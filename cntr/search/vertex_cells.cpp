@@ -25,7 +25,13 @@ struct Cell {
     std::int64_t row;
 };
 
-Cell cellOf(const gkVector<2>& p, double size) { return {gk_GridCell(p.x(), size), gk_GridCell(p.y(), size)}; }
+std::int64_t cellOfQuotient(double q) { return q < 0.0 ? -roundedHalvesUp(-q) : roundedHalvesUp(q); }
+
+// Both divisions in one.
+Cell cellOf(const gkVector<2>& p, double size) {
+    const gk_TwoDoubles quotients = gk_TwoOf(p) / gk_TwoDoubles(size);
+    return {cellOfQuotient(quotients.first()), cellOfQuotient(quotients.second())};
+}
 
 // Collects vertices of the block around a point's cell.
 class Block {
@@ -33,11 +39,15 @@ public:
     Block(const gkVector<2>& p, double tolerance)
         : p_(p), tolerance_(tolerance), middle_(cellOf(p, tolerance)) {}
 
-    void offer(const gkVector<2>& vertex, const Cell& cell, std::size_t index) {
+    bool reaches(const gkVector<2>& vertex) const { return gk_VectorOps::distance(vertex, p_) < tolerance_; }
+
+    // A vertex that is reached, unless its cell is beyond the block.
+    void add(const Cell& cell, std::size_t index) {
         const bool inBlock = middle_.column - 1 <= cell.column && cell.column <= middle_.column + 1 &&
                              middle_.row - 1 <= cell.row && cell.row <= middle_.row + 1;
-        if (inBlock && gk_VectorOps::distance(vertex, p_) < tolerance_)
-            found_.emplace_back(cell.column, cell.row, gk_IndexAs<int>(index));
+        if (!inBlock) return;
+        if (found_.empty()) found_.reserve(kUsual);
+        found_.emplace_back(cell.column, cell.row, gk_IndexAs<int>(index));
     }
 
     std::vector<int> ordered() {
@@ -51,6 +61,8 @@ public:
 private:
     using Found = std::tuple<std::int64_t, std::int64_t, int>; // column, row, index
 
+    static constexpr std::size_t kUsual = 16; // found, for whom memory is asked for once
+
     gkVector<2> p_;
     double tolerance_;
     Cell middle_;
@@ -59,10 +71,7 @@ private:
 
 } // namespace
 
-std::int64_t gk_GridCell(double value, double size) {
-    const double q = value / size;
-    return q < 0.0 ? -roundedHalvesUp(-q) : roundedHalvesUp(q);
-}
+std::int64_t gk_GridCell(double value, double size) { return cellOfQuotient(value / size); }
 
 bool gk_VertexCells::holds(double tolerance) const {
     return std::any_of(tolerances_.begin(), tolerances_.end(),
@@ -75,14 +84,13 @@ std::vector<int> gk_VertexCells::near(const std::vector<gkVector<2>>& points, co
     const bool isOrdinary = tolerance * tolerance >= kShortestSquare && tolerance <= kGreatestCoordinate;
     const bool isTreeEnough = tree != nullptr && gk_IsModerate(p) && isOrdinary;
     if (isTreeEnough && holds(tolerance)) {
-        Block block(p, tolerance);
         // Nearer than the tolerance as it is computed is nearer than a little more.
         const double reach = tolerance + gk_DistanceSlack(std::max(tree->reach(), gk_Reach(p)) + tolerance);
         const gk_Box around = gk_Box::of(p, p).grownBy(reach);
-        tree->all([&](const gk_Box& box) { return box.overlaps(around); },
-                  [&](std::size_t i) {
-                      if (around.holds(points[i])) block.offer(points[i], cellOf(points[i], tolerance), i);
-                  });
+        Block block(p, tolerance);
+        tree->allOverlapping(around, [&](std::size_t i) {
+            if (around.holds(points[i]) && block.reaches(points[i])) block.add(cellOf(points[i], tolerance), i);
+        });
         return block.ordered();
     }
     std::vector<Cell> cells;
@@ -90,6 +98,7 @@ std::vector<int> gk_VertexCells::near(const std::vector<gkVector<2>>& points, co
     for (const gkVector<2>& point : points) cells.push_back(cellOf(point, tolerance));
     if (!holds(tolerance)) tolerances_.push_back(tolerance);
     Block block(p, tolerance);
-    for (std::size_t i = 0; i < points.size(); ++i) block.offer(points[i], cells[i], i);
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (block.reaches(points[i])) block.add(cells[i], i);
     return block.ordered();
 }

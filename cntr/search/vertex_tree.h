@@ -22,8 +22,8 @@ public:
     double reach() const { return reach_; }
 
     // As gk_BoxHierarchy, with visit(index) for every vertex of a leaf.
-    template <class Wanted, class Visit> void all(Wanted wanted, Visit visit) const {
-        boxes_.any(wanted, [&](std::size_t leaf) {
+    template <class Visit> void allOverlapping(const gk_Box& box, Visit visit) const {
+        boxes_.anyOverlapping(box, [&](std::size_t leaf) {
             visitGroup(leaf, visit);
             return false;
         });
