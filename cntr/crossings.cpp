@@ -170,14 +170,14 @@ bool gk_CrossesItself(const gk_Segments& outline, const gk_SegmentTree& tree, co
     const std::size_t mostPairs = kPairsBeforeCandidates * outline.size();
     std::size_t pairs = 0;
     bool found = false;
-    const bool stopped = close.any([&](std::size_t k, std::size_t j) {
+    const bool stopped = close.anyThatMayCross([&](std::size_t k, std::size_t j) {
         found = areCrossing(k, j);
         return found || ++pairs > mostPairs;
     });
     if (found || !stopped) return found;
     const std::vector<gkLineSeg> candidates = gk_CrossingCandidates(outline);
     if (candidates.size() <= outline.size() / kWorthCandidates) return anyTwoCross(candidates, box);
-    return close.any(areCrossing);
+    return close.anyThatMayCross(areCrossing);
 }
 
 const gk_Crossing& gk_FirstAlong(const gkLineSeg& seg, const std::vector<gk_Crossing>& crossings) {

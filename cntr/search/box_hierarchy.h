@@ -110,7 +110,24 @@ public:
     // other) accepts, and visit(leaf, leaf) for every leaf. A visit that returns true ends it; tells whether
     // one did.
     template <class Wanted, class Visit> bool anyPair(Wanted wanted, Visit visit) const {
-        return anyPairWithin(top(), 0, wanted, visit);
+        const auto choose = [&](const gk_Box& box, const gk_EightBoxes& others, const gk_Box& around,
+                                unsigned among) {
+            if (!wanted(box, around)) return 0u;
+            unsigned chosen = 0;
+            for (; among != 0; among &= among - 1) {
+                const std::size_t i = gk_LowestBit(among);
+                chosen |= (wanted(box, others.box(i)) ? 1u : 0u) << i;
+            }
+            return chosen;
+        };
+        return anyPairWithin(top(), 0, choose, visit);
+    }
+
+    // The same for boxes within a margin of each other.
+    template <class Visit> bool anyClosePair(double margin, Visit visit) const {
+        const auto choose = [&](const gk_Box& box, const gk_EightBoxes& others, const gk_Box& /*around*/,
+                                unsigned among) { return among & others.overlapping(box.grownBy(margin)); };
+        return anyPairWithin(top(), 0, choose, visit);
     }
 
 private:
@@ -149,8 +166,7 @@ private:
         while (!pending.empty()) {
             const Node node = pending.pop();
             const std::size_t first = node.position * kFan;
-            const unsigned all = (1u << countUnder(node.level, node.position)) - 1u;
-            unsigned chosen = choose(under(node.level, node.position), all);
+            unsigned chosen = choose(under(node.level, node.position), allUnder(node.level, node.position));
             for (; chosen != 0; chosen &= chosen - 1) {
                 const std::size_t position = first + gk_LowestBit(chosen);
                 if (node.level > 1)
@@ -176,42 +192,45 @@ private:
     std::size_t countUnder(std::size_t level, std::size_t position) const {
         return std::min(levels_[level - 1].count - position * kFan, kFan);
     }
+    // A bit for each.
+    unsigned allUnder(std::size_t level, std::size_t position) const {
+        return (1u << countUnder(level, position)) - 1u;
+    }
     gk_Box boxAt(std::size_t level, std::size_t position) const {
         return level == top() ? box_ : under(level + 1, position / kFan).box(position % kFan);
     }
 
-    template <class Wanted, class Visit>
-    bool anyPairWithin(std::size_t at, std::size_t position, Wanted& wanted, Visit& visit) const {
+    // choose(box, eight boxes, box around those, bits) gives those bits whose boxes make a wanted pair with it.
+    template <class Choose, class Visit>
+    bool anyPairWithin(std::size_t at, std::size_t position, Choose& choose, Visit& visit) const {
         if (at == 0) return visit(position, position);
         const gk_EightBoxes& below = under(at, position);
-        const std::size_t count = countUnder(at, position);
+        const unsigned all = allUnder(at, position);
+        const gk_Box around = boxAt(at, position);
         const std::size_t first = position * kFan;
-        for (std::size_t i = 0; i < count; ++i) {
-            if (anyPairWithin(at - 1, first + i, wanted, visit)) return true;
-            for (std::size_t j = i + 1; j < count; ++j) {
-                if (wanted(below.box(i), below.box(j)) &&
-                    anyPairOf(at - 1, first + i, first + j, wanted, visit))
-                    return true;
-            }
+        for (unsigned ones = all; ones != 0; ones &= ones - 1) {
+            const std::size_t i = gk_LowestBit(ones);
+            if (anyPairWithin(at - 1, first + i, choose, visit)) return true;
+            unsigned others = choose(below.box(i), below, around, ones & (ones - 1));
+            for (; others != 0; others &= others - 1)
+                if (anyPairOf(at - 1, first + i, first + gk_LowestBit(others), choose, visit)) return true;
         }
         return false;
     }
 
-    template <class Wanted, class Visit>
-    bool anyPairOf(std::size_t at, std::size_t one, std::size_t other, Wanted& wanted, Visit& visit) const {
+    template <class Choose, class Visit>
+    bool anyPairOf(std::size_t at, std::size_t one, std::size_t other, Choose& choose, Visit& visit) const {
         if (at == 0) return visit(one, other);
-        const gk_EightBoxes& ones = under(at, one);
-        const gk_EightBoxes& others = under(at, other);
-        const std::size_t count = countUnder(at, one);
-        const std::size_t otherCount = countUnder(at, other);
-        const gk_Box otherBox = boxAt(at, other);
-        for (std::size_t i = 0; i < count; ++i) {
-            if (!wanted(ones.box(i), otherBox)) continue;
-            for (std::size_t j = 0; j < otherCount; ++j) {
-                if (wanted(ones.box(i), others.box(j)) &&
-                    anyPairOf(at - 1, one * kFan + i, other * kFan + j, wanted, visit))
+        const gk_EightBoxes& below = under(at, one);
+        const gk_EightBoxes& belowOther = under(at, other);
+        const unsigned all = allUnder(at, other);
+        const gk_Box around = boxAt(at, other);
+        for (unsigned ones = allUnder(at, one); ones != 0; ones &= ones - 1) {
+            const std::size_t i = gk_LowestBit(ones);
+            unsigned others = choose(below.box(i), belowOther, around, all);
+            for (; others != 0; others &= others - 1)
+                if (anyPairOf(at - 1, one * kFan + i, other * kFan + gk_LowestBit(others), choose, visit))
                     return true;
-            }
         }
         return false;
     }

@@ -53,9 +53,7 @@ void gk_RegionBoxes::order(const std::vector<gk_Box>& boxes) {
     gk_Box all = boxes.front();
     for (const gk_Box& box : boxes) all = all.enclosing(box);
     reach_ = std::max(gk_Reach({all.x0, all.y0}), gk_Reach({all.x1, all.y1}));
-    gk_SpaceOrder order(all, boxes.size());
-    for (const gk_Box& box : boxes) order.add(box.middle());
-    numbers_ = order.sorted();
+    numbers_ = gk_OrderInSpace(boxes, all);
     std::vector<gk_Box> leaves;
     leaves.reserve(boxes.size());
     for (const std::uint32_t number : numbers_) leaves.push_back(boxes[number]);

@@ -3,30 +3,29 @@
 #include "cntr/search/magnitude.h"
 #include "cntr/search/space_order.h"
 #include "platform/core/math/two_doubles.h"
-#include "platform/core/math/vector_ops.h"
 
 #include <utility>
 
 namespace {
 
-// Of vertices in a moderate box. False for a NaN.
-bool isModerateStep(const gkVector<2>& a, const gkVector<2>& b) {
-    const gkVector<2> along = b - a;
-    return gk_VectorOps::dot(along, along) >= kShortestSquare || a == b;
-}
-
-// Of a run within the bounds of magnitude.h, none for others.
+// Of a run within the bounds of magnitude.h, none for others and for one with a NaN.
 std::optional<gk_Box> moderateRunBox(const gk_Segments& segments, gk_SegmentTree::Range range) {
-    const gkVector<2>* from = &segments.first(range.begin);
-    bool areModerate = true;
+    gk_TwoDoubles from = gk_TwoOf(segments.first(range.begin));
+    gk_TwoDoubles low = from;
+    gk_TwoDoubles high = from;
     for (std::size_t k = range.begin; k < range.end; ++k) {
-        const gkVector<2>& to = segments.second(k);
-        areModerate = areModerate && isModerateStep(*from, to);
-        from = &to;
+        const gk_TwoDoubles to = gk_TwoOf(segments.second(k));
+        const gk_TwoDoubles step = to - from;
+        const gk_TwoDoubles squares = step * step;
+        const bool isLongEnough = squares.first() + squares.second() >= kShortestSquare;
+        if (!isLongEnough && segments.first(k) != segments.second(k)) return std::nullopt;
+        low = to.orLess(low);
+        high = to.orGreater(high);
+        from = to;
     }
-    const gk_Box box = gk_RunBox(segments, range);
-    areModerate = areModerate && gk_IsModerate({box.x0, box.y0}) && gk_IsModerate({box.x1, box.y1});
-    return areModerate ? std::optional<gk_Box>(box) : std::nullopt;
+    const gk_Box box{low.first(), low.second(), high.first(), high.second()};
+    const bool isModerate = gk_IsModerate({box.x0, box.y0}) && gk_IsModerate({box.x1, box.y1});
+    return isModerate ? std::optional<gk_Box>(box) : std::nullopt;
 }
 
 } // namespace
@@ -81,9 +80,7 @@ void gk_SegmentTree::order(const std::vector<gk_Box>& runBoxes) {
     for (const gk_Box& box : runBoxes) all = all.enclosing(box);
     reach_ = std::max(gk_Reach({all.x0, all.y0}), gk_Reach({all.x1, all.y1}));
 
-    gk_SpaceOrder order(all, runBoxes.size());
-    for (const gk_Box& box : runBoxes) order.add(box.middle());
-    runs_ = order.sorted();
+    runs_ = gk_OrderInSpace(runBoxes, all);
     std::vector<gk_Box> leaves;
     leaves.reserve(runs_.size());
     for (const std::uint32_t run : runs_) leaves.push_back(runBoxes[run]);

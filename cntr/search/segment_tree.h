@@ -56,8 +56,8 @@ public:
         boxes_.nearestTo(p, limit, [&](std::size_t leaf) { visit(runs_[leaf]); });
     }
     // Calls visit(run, box, other, box of the other).
-    template <class Wanted, class Visit> bool anyPair(Wanted wanted, Visit visit) const {
-        return boxes_.anyPair(wanted, [&](std::size_t leaf, std::size_t other) {
+    template <class Visit> bool anyClosePair(double margin, Visit visit) const {
+        return boxes_.anyClosePair(margin, [&](std::size_t leaf, std::size_t other) {
             return visit(runs_[leaf], boxes_.leaf(leaf), runs_[other], boxes_.leaf(other));
         });
     }

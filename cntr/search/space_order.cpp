@@ -1,6 +1,8 @@
 #include "cntr/search/space_order.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <numeric>
 
 namespace {
@@ -96,4 +98,32 @@ std::vector<std::uint32_t> gk_SpaceOrder::sorted() const {
         return numbers;
     }
     return sortedBy(16, positions_, sortedBy(0, positions_, numbers));
+}
+
+double gk_SizeBesideEven(const std::vector<gk_Box>& boxes, const gk_Box& all) {
+    double sum = 0.0;
+    for (const gk_Box& box : boxes) sum += (box.x1 - box.x0) + (box.y1 - box.y0);
+    const double even =
+        2.0 * std::sqrt((all.x1 - all.x0) * static_cast<double>(boxes.size())) * std::sqrt(all.y1 - all.y0);
+    return sum > 0.0 ? sum / even : 0.0;
+}
+
+std::vector<std::uint32_t> gk_OrderInSpace(const std::vector<gk_Box>& boxes, const gk_Box& all) {
+    constexpr std::size_t kGroup = 8;
+    std::vector<gk_Box> groups;
+    groups.reserve(boxes.size() / kGroup + 1);
+    for (std::size_t begin = 0; begin < boxes.size(); begin += kGroup) {
+        gk_Box group = boxes[begin];
+        for (std::size_t i = begin + 1; i < std::min(begin + kGroup, boxes.size()); ++i)
+            group = group.enclosing(boxes[i]);
+        groups.push_back(group);
+    }
+    if (gk_SizeBesideEven(groups, all) <= 1.0) {
+        std::vector<std::uint32_t> numbers(boxes.size());
+        std::iota(numbers.begin(), numbers.end(), 0u);
+        return numbers;
+    }
+    gk_SpaceOrder order(all, boxes.size());
+    for (const gk_Box& box : boxes) order.add(box.middle());
+    return order.sorted();
 }

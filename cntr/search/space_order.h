@@ -27,4 +27,13 @@ private:
     std::vector<std::uint32_t> positions_;
 };
 
+// How large the boxes are, their widths and heights together, beside as many squares that share the area of the
+// box around all.
+double gk_SizeBesideEven(const std::vector<gk_Box>& boxes, const gk_Box& all);
+
+// The numbers of boxes in an order in which neighbours are near each other: their own order where those that
+// follow each other are as near as squares of a grid would be, which an outline's pieces mostly are; else that
+// of space.
+std::vector<std::uint32_t> gk_OrderInSpace(const std::vector<gk_Box>& boxes, const gk_Box& all);
+
 #endif

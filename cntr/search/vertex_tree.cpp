@@ -7,16 +7,6 @@ namespace {
 
 gk_Box boxOf(const gkVector<2>& point) { return gk_Box::of(point, point); }
 
-double halfGirth(const gk_Box& box) { return (box.x1 - box.x0) + (box.y1 - box.y0); }
-
-// Whether runs are at most twice as large as groups of vertices that are spread evenly over the box.
-bool areCompact(const std::vector<gk_Box>& runBoxes, const gk_Box& all) {
-    double sum = 0.0;
-    for (const gk_Box& box : runBoxes) sum += halfGirth(box);
-    const auto count = static_cast<double>(runBoxes.size());
-    return sum <= 4.0 * std::sqrt((all.x1 - all.x0) * count) * std::sqrt(all.y1 - all.y0);
-}
-
 } // namespace
 
 std::optional<gk_VertexTree> gk_VertexTree::of(const Points& points) {
@@ -30,7 +20,7 @@ std::optional<gk_VertexTree> gk_VertexTree::of(const Points& points) {
     tree.reach_ = std::max(gk_Reach({all.x0, all.y0}), gk_Reach({all.x1, all.y1}));
     tree.vertexCount_ = points.size();
     const std::vector<gk_Box> runBoxes = tree.boxesOfRuns(points);
-    if (areCompact(runBoxes, all))
+    if (gk_SizeBesideEven(runBoxes, all) <= 2.0)
         tree.orderRuns(runBoxes, all);
     else
         tree.orderVertices(points, all);
@@ -50,9 +40,7 @@ std::vector<gk_Box> gk_VertexTree::boxesOfRuns(const Points& points) const {
 }
 
 void gk_VertexTree::orderRuns(const std::vector<gk_Box>& runBoxes, const gk_Box& all) {
-    gk_SpaceOrder order(all, runBoxes.size());
-    for (const gk_Box& box : runBoxes) order.add(box.middle());
-    order_ = order.sorted();
+    order_ = gk_OrderInSpace(runBoxes, all);
     std::vector<gk_Box> leaves;
     leaves.reserve(order_.size());
     for (const std::uint32_t run : order_) leaves.push_back(runBoxes[run]);

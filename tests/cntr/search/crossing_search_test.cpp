@@ -116,6 +116,37 @@ TEST(CrossingSearch, SegmentsOnTopOfEachOtherAreKnownToCrossOrNot) {
     EXPECT_LE(1, crossing);
 }
 
+// Where steps are as short as a touch, those on either side of one may still count as crossing.
+TEST(CrossingSearch, OutlinesThatLeadOnByAboutATouchAreKnownToCrossOrNot) {
+    std::uint64_t crossing = 0;
+    std::uint64_t simple = 0;
+    for (std::uint64_t seed = 1; seed <= gen::rounds(400); ++seed) {
+        SCOPED_TRACE(seed);
+        gen::Random random(seed);
+        const gkVector<2> along(random.between(-1, 1), random.between(-1, 1));
+        const gkVector<2> across(-along.y(), along.x());
+        const double least = random.between(-2e-6, 4e-6);
+        const double spread = random.chance(0.5) ? 2e-6 : 2e-4;
+        const double away = random.chance(0.3) ? random.between(-1e5, 1e5) : 0.0;
+        Points points;
+        double place = 0.0;
+        for (int i = 0; i < 80; ++i) {
+            place += least + random.between(0, 4e-6);
+            points.push_back(gkVector<2>(away, away) + place * along +
+                             random.between(-spread, spread) * across);
+        }
+        const gk_Segments outline(points, false);
+        const auto tree = gk_SegmentTree::of(outline);
+        ASSERT_TRUE(tree);
+        const bool expected = oracle::isSelfIntersecting(points, false);
+        ++(expected ? crossing : simple);
+        const gk_Box box = gk_Box::of(oracle::encloseRect(points, gkXform<2>()));
+        ASSERT_EQ(expected, gk_CrossesItself(outline, *tree, box));
+    }
+    EXPECT_LT(gen::rounds(50), crossing);
+    EXPECT_LT(gen::rounds(50), simple);
+}
+
 TEST(CrossingSearch, CandidatesAreOneOfEachKindAndNoneWhereAllAreParallel) {
     const auto candidates = [](const Points& points) {
         return gk_CrossingCandidates(gk_Segments(points, true));
