@@ -120,14 +120,16 @@ public:
             }
             return chosen;
         };
-        return anyPairWithin(top(), 0, choose, visit);
+        const auto isNone = [](std::size_t, std::size_t) { return false; };
+        return anyPairWithin(top(), 0, choose, isNone, visit);
     }
 
-    // The same for boxes within a margin of each other.
-    template <class Visit> bool anyClosePair(double margin, Visit visit) const {
+    // The same for boxes within a margin of each other, but for those among some leaves that follow each other
+    // of which isNone(first leaf, count) tells that none of their pairs, with themselves included, is of use.
+    template <class IsNone, class Visit> bool anyClosePair(double margin, IsNone isNone, Visit visit) const {
         const auto choose = [&](const gk_Box& box, const gk_EightBoxes& others, const gk_Box& /*around*/,
                                 unsigned among) { return among & others.overlapping(box.grownBy(margin)); };
-        return anyPairWithin(top(), 0, choose, visit);
+        return anyPairWithin(top(), 0, choose, isNone, visit);
     }
 
 private:
@@ -201,16 +203,18 @@ private:
     }
 
     // choose(box, eight boxes, box around those, bits) gives those bits whose boxes make a wanted pair with it.
-    template <class Choose, class Visit>
-    bool anyPairWithin(std::size_t at, std::size_t position, Choose& choose, Visit& visit) const {
+    template <class Choose, class IsNone, class Visit>
+    bool anyPairWithin(std::size_t at, std::size_t position, Choose& choose, IsNone& isNone,
+                       Visit& visit) const {
         if (at == 0) return visit(position, position);
+        if (at == 1 && isNone(position * kFan, countUnder(at, position))) return false;
         const gk_EightBoxes& below = under(at, position);
         const unsigned all = allUnder(at, position);
         const gk_Box around = boxAt(at, position);
         const std::size_t first = position * kFan;
         for (unsigned ones = all; ones != 0; ones &= ones - 1) {
             const std::size_t i = gk_LowestBit(ones);
-            if (anyPairWithin(at - 1, first + i, choose, visit)) return true;
+            if (anyPairWithin(at - 1, first + i, choose, isNone, visit)) return true;
             unsigned others = choose(below.box(i), below, around, ones & (ones - 1));
             for (; others != 0; others &= others - 1)
                 if (anyPairOf(at - 1, first + i, first + gk_LowestBit(others), choose, visit)) return true;

@@ -43,7 +43,8 @@ private:
     // But for those in a range of which areApart(range) tells that it has none.
     template <class AreApart, class Visit> bool anyUnless(AreApart areApart, Visit& visit) const {
         return tree_.anyClosePair(
-            margin_, [&](std::size_t run, const gk_Box& box, std::size_t other, const gk_Box& otherBox) {
+            margin_, areApart,
+            [&](std::size_t run, const gk_Box& box, std::size_t other, const gk_Box& otherBox) {
                 const gk_SegmentTree::Range range = tree_.segmentsOf(std::min(run, other));
                 if (run == other) return !areApart(range) && anyWithin(run, visit);
                 const bool areNext = range.end == tree_.segmentsOf(std::max(run, other)).begin;

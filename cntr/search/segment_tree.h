@@ -56,8 +56,15 @@ public:
         boxes_.nearestTo(p, limit, [&](std::size_t leaf) { visit(runs_[leaf]); });
     }
     // Calls visit(run, box, other, box of the other).
-    template <class Visit> bool anyClosePair(double margin, Visit visit) const {
-        return boxes_.anyClosePair(margin, [&](std::size_t leaf, std::size_t other) {
+    // A range of some runs of which isNone(range) tells that it holds no pair of use is passed over.
+    template <class IsNone, class Visit> bool anyClosePair(double margin, IsNone isNone, Visit visit) const {
+        const auto isNoneOfLeaves = [&](std::size_t first, std::size_t count) {
+            const std::uint32_t run = runs_[first];
+            for (std::size_t i = 1; i < count; ++i)
+                if (runs_[first + i] != run + i) return false;
+            return isNone(Range{segmentsOf(run).begin, segmentsOf(run + count - 1).end});
+        };
+        return boxes_.anyClosePair(margin, isNoneOfLeaves, [&](std::size_t leaf, std::size_t other) {
             return visit(runs_[leaf], boxes_.leaf(leaf), runs_[other], boxes_.leaf(other));
         });
     }
