@@ -24,6 +24,8 @@ public:
     double margin() const { return margin_; }
     // Segments run through a good part of the cells.
     bool isCrowded() const { return crowded_; }
+    // Where cells are long, segments are, and a vertex near a place may be many narrow cells away.
+    bool isNearlySquare() const { return width_ <= 4.0 * height_ && height_ <= 4.0 * width_; }
 
     // The column or row that holds a coordinate, the outermost for one beyond the box. Monotone.
     std::size_t columnOf(double x) const { return clamped((x - box_.x0) * columnsPerUnit_, columns_); }

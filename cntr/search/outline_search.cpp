@@ -77,13 +77,17 @@ const gk_SegmentCells* gk_OutlineSearch::cellsWithParity(const gk_Segments& outl
 }
 
 // The cells of an outline that most places are near; of any other they would seldom know what is nearest.
-const gk_SegmentCells* gk_OutlineSearch::crowdedCells(const gk_Segments& outline) {
-    if (!cells_ && !crowdTried_ && outline.size() >= kFewestForTree) {
+const gk_SegmentCells* gk_OutlineSearch::crowdedCells(const gk_Segments& outline, Nearest what) {
+    const auto isFit = [&](const gk_CellGrid& grid) {
+        return grid.isCrowded() && (what == Nearest::eSegment || grid.isNearlySquare());
+    };
+    bool& isTried = what == Nearest::eSegment ? crowdTried_ : squareTried_;
+    if (!cells_ && !isTried && outline.size() >= kFewestForTree) {
         const std::optional<gk_CellGrid> grid = gk_CellGrid::of(outline);
-        if (grid && grid->isCrowded()) cells_ = std::make_shared<const gk_SegmentCells>(*grid, outline);
-        crowdTried_ = true;
+        if (grid && isFit(*grid)) cells_ = std::make_shared<const gk_SegmentCells>(*grid, outline);
+        isTried = true;
     }
-    return cells_ && cells_->grid().isCrowded() ? cells_.get() : nullptr;
+    return cells_ && isFit(cells_->grid()) ? cells_.get() : nullptr;
 }
 
 const gk_OutlineSearch::InsideIndex* gk_OutlineSearch::insideIndexWhenAsked(const gk_Segments& outline,
@@ -99,7 +103,7 @@ std::size_t gk_OutlineSearch::nearestVertex(const Points& points, bool closed, c
     if (!gk_IsModerate(p) || points.size() < kFewestForTree || !isFrom(kTreeFrom, askedVertices_))
         return gk_NearestVertex(points, p);
     const gk_Segments outline(points, closed);
-    if (const gk_SegmentCells* const index = crowdedCells(outline)) {
+    if (const gk_SegmentCells* const index = crowdedCells(outline, Nearest::eVertex)) {
         if (const std::optional<std::size_t> nearest = gk_NearestVertex(outline, *index, p)) return *nearest;
     }
     const gk_VertexTree* const index = vertexTree(points);
@@ -159,7 +163,7 @@ void gk_OutlineSearch::circleOverFarthestPair(const Points& points, gkCircle& ci
 std::size_t gk_OutlineSearch::nearestSegment(const gk_Segments& outline, const gkVector<2>& p) {
     if (!gk_IsModerate(p) || outline.size() < kFewestForTree || !isFrom(kTreeFrom, asked_))
         return gk_NearestSegment(outline, p);
-    if (const gk_SegmentCells* const index = crowdedCells(outline)) {
+    if (const gk_SegmentCells* const index = crowdedCells(outline, Nearest::eSegment)) {
         if (const std::optional<std::size_t> nearest = gk_NearestSegment(outline, *index, p)) return *nearest;
     }
     const gk_SegmentTree* const index = tree(outline);

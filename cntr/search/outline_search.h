@@ -82,6 +82,8 @@ public:
     bool isFirstAnswer() { return !std::exchange(hasAnswered_, true); }
 
 private:
+    enum class Nearest { eSegment, eVertex };
+
     struct InsideIndex {
         gk_InsideCertificate certificate;
         std::shared_ptr<const gk_SegmentCells> cells;
@@ -92,7 +94,7 @@ private:
     const gk_VertexTree* vertexTree(const Points& points);
     const gk_VertexTree* vertexTreeWhenAsked(const Points& points);
     const gk_SegmentCells* cellsWithParity(const gk_Segments& outline);
-    const gk_SegmentCells* crowdedCells(const gk_Segments& outline);
+    const gk_SegmentCells* crowdedCells(const gk_Segments& outline, Nearest what);
     const gk_VertexRuns* vertexRunsWhenAsked(const Points& points);
     const gk_OuterVertices* outerVerticesWhenAsked(const Points& points);
     std::size_t nearestSegment(const gk_Segments& outline, const gkVector<2>& p);
@@ -115,6 +117,7 @@ private:
     bool treeTried_ = false;
     bool cellsTried_ = false;
     bool crowdTried_ = false;
+    bool squareTried_ = false;
     bool vertexTreeTried_ = false;
     bool outerTried_ = false;
 };
