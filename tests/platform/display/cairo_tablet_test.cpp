@@ -15,12 +15,6 @@
 #include <limits>
 #include <regex>
 
-// Fontconfig keeps its tables until the process ends, which the leak checker would report as ours.
-extern "C" const char* __lsan_default_suppressions();
-extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
-    return "leak:libfontconfig\n";
-}
-
 namespace {
 
 using Tablet = gkUITablet;
