@@ -23,7 +23,7 @@ template <class Check> void eachOrdinaryShape(std::uint64_t seeds, std::size_t f
         check(points, seed);
     });
     if (::testing::Test::HasFailure()) return;
-    EXPECT_GT(taken, 12 * seeds) << "most kinds should be left";
+    EXPECT_GT(taken, 12 * gen::rounds(seeds)) << "most kinds should be left";
 }
 
 // The greatest coordinate, which the rounding of sums and differences goes by.
