@@ -14,7 +14,7 @@ sys.path[:0] = [here, os.path.join(root, "debug", "gdb")]
 for setting in ("confirm off", "pagination off", "width 0", "disable-randomization off", "print elements 200"):
     gdb.execute("set " + setting)
 gdb.execute("source " + os.path.join(root, "debug", "gdb", "gkcntr.py"))
-gdb.execute("break made", to_string=True)
+gdb.execute("break shapes.cpp:made", to_string=True)
 gdb.execute("run", to_string=True)
 gdb.execute("up", to_string=True)
 
