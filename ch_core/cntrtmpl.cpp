@@ -14,7 +14,8 @@ namespace {
 [[noreturn]] void refuse() { throw gkPel::BadWindow(); }
 
 gkPtrHandle_const<gk2XformBase> ownClone(const gkPtrHandle_const<gk2XformBase>& xform) {
-    return xform.isNull() ? gkPtrHandle_const<gk2XformBase>(new gk2XformLinear) : xform->clone();
+    if (!xform.isNull()) return xform->clone();
+    return gkPtrHandle_const<gk2XformBase>(new gk2XformLinear);
 }
 
 void drawStroke(gkUITablet& tablet, const gkEdgelet& edgelet, const gkColor& color,

@@ -53,10 +53,8 @@ public:
                kRoom;
     }
 
-    // Not below the turn of a direction that is computed as `angle` or less.
+    // Not below the turn of a direction that is computed as `angle` or less, which is below a full turn.
     static double greatestTurn(double angle) {
-        constexpr double kAlmostFull = 6.28;
-        if (angle > kAlmostFull) return 4.0;
         const gk_Trig::SinCos side = gk_Trig::sinCos(angle);
         return gk_QuarterTurns(side.cos, side.sin) + kRoom;
     }
@@ -207,10 +205,10 @@ private:
         std::size_t vertex;
     };
 
+    // Of directions of which there is one.
     double greatest() const {
-        for (auto column = columns_.rbegin(); column != columns_.rend(); ++column)
-            if (column->least != kNone) return column->greatest;
-        return begin_;
+        const auto isUsed = [](const Column& column) { return column.least != kNone; };
+        return std::find_if(columns_.rbegin(), columns_.rend(), isUsed)->greatest;
     }
 
     // The directions of those that are nearly known as `angle`.

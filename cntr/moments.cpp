@@ -95,7 +95,8 @@ double gf_Area(const std::vector<gkVector<2>>& points) {
 }
 
 double gf_Area(const std::vector<gkEdgelet>& edgelets) {
-    return edgelets.size() < 3 ? 0.0 : shoelace(positions(edgelets));
+    if (edgelets.size() < 3) return 0.0;
+    return shoelace(positions(edgelets));
 }
 
 gkVector<2> gnContour::centerOfMass(const std::vector<gkVector<2>>& points) {

@@ -86,8 +86,8 @@ struct gkRegion::Chain {
     }
 };
 
+// Of a point in the box: outside of it no ray is cast.
 long gkRegion::insideCount(const gkVector<2>& point, bool bothWays) const {
-    if (!encloseRect(gkXform<2>()).within(point)) return 0;
     const gk_Segments outline(points(), true);
     return search().insideCount(outline, point, diameter(gkContourDefs::eApproximate), bothWays);
 }

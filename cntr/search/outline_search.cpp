@@ -100,8 +100,7 @@ const gk_OutlineSearch::InsideIndex* gk_OutlineSearch::insideIndexWhenAsked(cons
 }
 
 std::size_t gk_OutlineSearch::nearestVertex(const Points& points, bool closed, const gkVector<2>& p) {
-    if (!gk_IsModerate(p) || points.size() < kFewestForTree || !isFrom(kTreeFrom, askedVertices_))
-        return gk_NearestVertex(points, p);
+    if (!gk_IsModerate(p) || !isFrom(kTreeFrom, askedVertices_)) return gk_NearestVertex(points, p);
     const gk_Segments outline(points, closed);
     if (const gk_SegmentCells* const index = crowdedCells(outline, Nearest::eVertex)) {
         if (const std::optional<std::size_t> nearest = gk_NearestVertex(outline, *index, p)) return *nearest;

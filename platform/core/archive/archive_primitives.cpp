@@ -12,9 +12,10 @@ namespace {
 
 constexpr std::uint64_t most32 = 0xFFFFFFFFu;
 
+// Of what getText() has found to be UTF-8.
 std::wstring decode(const std::string& utf8) {
     std::wstring wide;
-    if (!gk_Utf8::widen(utf8, wide)) throw gkArchive::BadValue(L"a text is not UTF-8");
+    gk_Utf8::widen(utf8, wide);
     return wide;
 }
 

@@ -87,11 +87,9 @@ Geom geomOf(gk_Conic conic, const gk_FitFrame& frame) {
     if (conic.xx + conic.yy < 0.0) conic = {-conic.xx, -conic.xy, -conic.yy, -conic.x, -conic.y, -conic.one};
     const double half = 0.5 * conic.xy;
     const double det = conic.xx * conic.yy - half * half;
-    if (!(det > 0.0)) refuse();
     const gkVector<2> center(0.5 * (half * conic.y - conic.yy * conic.x) / det,
                              0.5 * (half * conic.x - conic.xx * conic.y) / det);
     const double level = -(conic.one + 0.5 * (conic.x * center.x() + conic.y * center.y()));
-    if (!(level > 0.0)) refuse();
     const double u = frame.spreadU();
     const double v = frame.spreadV();
     const double p = level / det * conic.yy * u * u;
@@ -102,8 +100,9 @@ Geom geomOf(gk_Conic conic, const gk_FitFrame& frame) {
     const double root = std::sqrt(h * h + q * q);
     const double big = std::sqrt(mean + root);
     const double small = level / std::sqrt(det) * u * v / big;
-    if (!std::isfinite(big) || !std::isfinite(center.x()) || !std::isfinite(center.y()) || !(small > 0.0))
-        refuse();
+    const bool isEllipse = det > 0.0 && level > 0.0 && std::isfinite(big) && std::isfinite(center.x()) &&
+                           std::isfinite(center.y()) && small > 0.0;
+    if (!isEllipse) refuse(); // or rounding has made none of one
     return {frame.fromFrame(center),
             {big, std::min(big, small)},
             axisAngle(frame.rotatedBack(longAxis(h, q, root)))};
