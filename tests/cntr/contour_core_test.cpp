@@ -243,6 +243,7 @@ TEST(ContourKeys, PairsAndVectorsCompareByXThenY) {
     EXPECT_FALSE(less(gkPair<long>(1, 1), gkPair<long>(1, 1)));
     EXPECT_TRUE(less(gkVector<2>(1, 9), gkVector<2>(2, 0)));
     EXPECT_FALSE(less(gkVector<2>(1, 1), gkVector<2>(1, 0)));
+    EXPECT_FALSE(less(gkVector<2>(2, 0), gkVector<2>(1, 9)));
 }
 
 TEST(RegionOutline, IsAlwaysClosed) {

@@ -1,4 +1,5 @@
 // Area, centroid and second moments of vertex lists, with values from mathematics.
+#include "cntr/inertia_piece.h"
 #include "cntr/moments.h"
 #include "platform/core/object/errors.h"
 #include "tests/support/shapes.h"
@@ -333,3 +334,22 @@ TEST(StdDev, DividesByTheCount) { EXPECT_EQ(std::sqrt(1.25), gf_StdDev({1, 2, 3,
 TEST(StdDev, OfOneValueIsZero) { EXPECT_EQ(0.0, gf_StdDev({42.0})); }
 
 TEST(StdDev, OfNoValuesIsNotANumber) { EXPECT_TRUE(std::isnan(gf_StdDev({}))); }
+
+// A piece without area has no centre to take part with, nor has one whose area is no number, where it comes
+// first.
+TEST(InertiaPiece, OfNoAreaOrNoneThatIsANumberLeavesTheOther) {
+    gk_InertiaPiece piece;
+    piece.area = 3.0;
+    piece.center = gk_TwoDoubles::firsts(gk_TwoDoubles(1.0), gk_TwoDoubles(2.0));
+    for (const double area : {0.0, -0.0, std::numeric_limits<double>::quiet_NaN()}) {
+        gk_InertiaPiece none;
+        none.area = area;
+        none.xy = 7.0;
+        const gk_InertiaPiece sum = gk_Sum(none, piece);
+        EXPECT_EQ(3.0, sum.area) << area;
+        EXPECT_EQ(0.0, sum.xy) << area;
+        EXPECT_EQ(1.0, sum.center.first()) << area;
+        EXPECT_EQ(2.0, sum.center.second()) << area;
+    }
+    EXPECT_EQ(3.0, gk_Sum(piece, gk_InertiaPiece()).area);
+}

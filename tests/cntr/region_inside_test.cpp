@@ -2,6 +2,7 @@
 // gap between vertex directions, counted from the x axis, that is wider than pi / n.
 #include "cntr/inside_count.h"
 #include "cntr/outline.h"
+#include "tests/support/outlines.h"
 #include "tests/support/regions.h"
 
 #include <gtest/gtest.h>
@@ -174,6 +175,21 @@ TEST(RegionInside, UsesTheKeptBoxAsItIs) {
     region.encloseRect(gkXform<2>(gkMatrix<2>(1, 0, 0, 0.25), {0, 0}));
     EXPECT_FALSE(region.inside({5, 5}, false));
     EXPECT_TRUE(region.inside({5, 2}, false));
+}
+
+// The box kept under the identity's key reaches 1e150 high, far beyond what an index can compare. By hand: from
+// up there a ray as long as the outline is wide meets nothing.
+TEST(RegionInside, FarOutsideTheOutlineButInTheKeptBoxIsFalse) {
+    for (const int count : {12, 60, 600}) {
+        const gkRegion region(starOutline(count, 10.0));
+        region.encloseRect(gkXform<2>(gkMatrix<2>(1, 0, 0, 1e150), {0, 0}));
+        for (int time = 0; time < 12; ++time) {
+            EXPECT_FALSE(region.inside({1, 1e145}, false)) << count;
+            EXPECT_FALSE(region.inside({1, -1e145}, false)) << count;
+            EXPECT_FALSE(region.inside({1, 1e6}, false)) << count;
+            EXPECT_TRUE(region.inside({1, 1}, false)) << count;
+        }
+    }
 }
 
 TEST(RegionInside, OfTooFewVerticesIsRefused) {

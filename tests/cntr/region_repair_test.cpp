@@ -105,6 +105,16 @@ TEST(RegionRepair, OfVerticesNearAKnotTheFirstCellsCounts) {
     EXPECT_THAT(joined, ElementsAre(gk_Loop{knot, {4, 2}, {4, 0}, left, {-3, -2}, right, {-3, 2}}));
 }
 
+// In one cell the first in its loop's order counts, whichever is nearer.
+TEST(RegionRepair, OfVerticesNearAKnotInOneCellTheFirstCounts) {
+    const gkVector<2> near(0.3e-6, 0.1e-6);
+    const gkVector<2> nearer(0.2e-6, -0.1e-6);
+    const std::vector<gk_Loop> loops = {{{0, 0}, {4, 2}, {4, 0}}, {{-3, 1}, near, {-3, 2}, nearer, {-3, -2}}};
+    const std::vector<gk_Loop> joined = gk_JoinLoops(loops);
+    EXPECT_EQ(oracle::joinLoops(loops), joined);
+    EXPECT_THAT(joined, ElementsAre(gk_Loop{{0, 0}, {4, 2}, {4, 0}, near, {-3, 2}, nearer, {-3, -2}, {-3, 1}}));
+}
+
 TEST(RegionRepair, ALoopInsideAnotherIsDroppedFromTheOuterHullAlone) {
     EXPECT_THAT(regularized(region(kDoubleTurn)),
                 ElementsAreArray(points("2 2, 8 2, 8 8, 4 8, 4 6, 6 6, 6 4, 4 4, 4 6, 2 6")));

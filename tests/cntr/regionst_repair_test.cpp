@@ -1,5 +1,6 @@
 // Self-intersection, merging and repair of region sets. Repaired outlines are walked by hand.
 #include "cntr/region_merge.h"
+#include "platform/core/object/errors.h"
 #include "tests/support/region_sets.h"
 
 #include <gtest/gtest.h>
@@ -308,6 +309,15 @@ TEST(RegionSetRepair, PassesOnWhatAMemberThrows) {
     for (const Repair repair : kRepairs) {
         EXPECT_THROW(repaired(set, repair), gkContourDefs::EmptyContour);
         EXPECT_THROW(repaired(set, repair), gkContourDefs::EmptyContour);
+    }
+}
+
+TEST(RegionSetRepair, OfANullHandleIsRefused) {
+    for (const std::vector<Shared>& members : {std::vector<Shared>{shared(kBowtie), Shared(), far()},
+                                               std::vector<Shared>{shared(kBowtie), far(), Shared()}}) {
+        const gkRegionSet set(members, kKeep);
+        EXPECT_THROW(set.isSelfIntersecting(), gkBadPointer);
+        for (const Repair repair : kRepairs) EXPECT_THROW(repaired(set, repair), gkBadPointer);
     }
 }
 

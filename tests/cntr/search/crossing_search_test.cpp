@@ -177,6 +177,21 @@ TEST(CrossingSearch, AVastSegmentMeetsTheOnlyOneItCrosses) {
     }
 }
 
+// The same segment crosses each step from one level to the other.
+TEST(CrossingSearch, AVastSegmentsCrossingsAreCountedUpToTheMost) {
+    Points points;
+    for (std::size_t i = 0; i < 64; ++i)
+        points.emplace_back(static_cast<double>(i), static_cast<double>(i % 2));
+    const gk_Segments outline(points, false);
+    const auto tree = gk_SegmentTree::of(outline);
+    ASSERT_TRUE(tree);
+    const gk_CrossingTest query(gkLineSeg({-1e145, 0.5}, {1e145, 0.5}), false);
+    for (const std::size_t most : {std::size_t{1}, std::size_t{7}, std::size_t{1000}}) {
+        EXPECT_EQ(std::min(most, std::size_t{63}), gk_CountCrossings(outline, *tree, query, most));
+        EXPECT_EQ(std::min(most, std::size_t{63}), gk_CountCrossings(outline, query, most));
+    }
+}
+
 TEST(CrossingSearch, TreeKnowsWhetherASegmentMeetsAny) {
     search::each(12, [](const Points& points, std::uint64_t seed) {
         if (points.size() < 2) return;

@@ -113,6 +113,29 @@ TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
     EXPECT_LT(counts.asked / 3, counts.known); // the rest lies on edges and at vertices
 }
 
+TEST(InsideSearch, FlatOutlinesHaveNoCells) {
+    for (const gkVector<2>& size : {gkVector<2>(100, 1e-9), gkVector<2>(1e-9, 100), gkVector<2>(0, 0)}) {
+        const Points points = {{0, 0}, {size.x(), 0}, size, {0, size.y()}};
+        EXPECT_FALSE(gk_CellGrid::of(gk_Segments(points, true))) << size;
+    }
+    const Points square = {{0, 0}, {100, 0}, {100, 100}, {0, 100}};
+    EXPECT_TRUE(gk_CellGrid::of(gk_Segments(square, true)));
+}
+
+// 3000 segments that all lie in the cell at a corner.
+TEST(InsideSearch, CellsThatListTooManySegmentsKnowNothing) {
+    Points points = {{100, 0}, {100, 100}, {0, 100}};
+    for (int i = 0; i < 3000; ++i) points.emplace_back(0.2 * (i % 2), 0.5 - 0.5 * i / 3000.0);
+    const gk_Segments outline(points, true);
+    const auto grid = gk_CellGrid::of(outline);
+    ASSERT_TRUE(grid);
+    const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
+    const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, grid->box());
+    const gk_SegmentCells cells = gk_SegmentCells(*grid, outline).withParity(outline);
+    EXPECT_EQ(gk_Inside::eUnknown, gk_InsideByCells(outline, cells, certificate, {0.3, 0.3}));
+    EXPECT_EQ(gk_Inside::eInside, gk_InsideByCells(outline, cells, certificate, {50, 50}));
+}
+
 TEST(InsideSearch, TreeSendsTheRayWhereThePlainScanDoes) {
     search::each(12, [](const Points& points, std::uint64_t seed) {
         const gk_Segments outline(points, true);
@@ -156,6 +179,35 @@ TEST(InsideSearch, TreeFindsAGapThatIsWideByAHair) {
                 << before << ' ' << more;
             EXPECT_EQ(answer([&] { return *gk_RayDirection(outline, point); }), answer([&] { return *fast; }));
         }
+    }
+}
+
+// The first gap that seems wide is narrower than a wide one by less than the room that is given to angles.
+TEST(InsideSearch, TreePassesOverAGapThatIsNarrowByLessThanAnAnglesRoom) {
+    constexpr std::size_t kCount = 2000;
+    const double step = std::acos(-1.0) / static_cast<double>(kCount);
+    for (const double less : {0.0, 3e-13, 1e-12}) {
+        std::vector<double> angles;
+        for (double angle = 0.9 * step; angle < 5.0 * step; angle += 0.9 * step) angles.push_back(angle);
+        angles.push_back(angles.back() + step - less);
+        angles.push_back(angles.back() + 1.5 * step);
+        const double middle = angles.back() - 0.75 * step;
+        const double rest = (6.28 - angles.back()) / static_cast<double>(kCount - angles.size());
+        while (angles.size() < kCount) angles.push_back(angles.back() + rest);
+        Points points;
+        for (const double angle : angles) points.emplace_back(50.0 * std::cos(angle), 50.0 * std::sin(angle));
+        const gk_Segments outline(points, true);
+        const auto tree = gk_SegmentTree::of(outline);
+        ASSERT_TRUE(tree);
+        const auto fast = gk_RayDirection(outline, *tree, {0, 0});
+        ASSERT_TRUE(fast);
+        EXPECT_EQ(answer([&] {
+                      return *gk_RayDirection(outline, {0, 0});
+                  }),
+                  answer([&] { return *fast; }))
+            << less;
+        if (less == 0.0) continue; // rounding decides
+        EXPECT_NEAR(middle, std::atan2(fast->y(), fast->x()), 1e-14) << less;
     }
 }
 

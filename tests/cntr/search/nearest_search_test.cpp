@@ -40,6 +40,26 @@ TEST(NearestSearch, ScanFindsThePlainNearestPoint) {
     });
 }
 
+// The square of a length below 1e-140 has lost its bits, so what is computed from it may come out nearer than
+// the segment's box allows; such a segment is asked wherever it lies, its neighbours in the run only where they
+// may be best.
+TEST(NearestSearch, ScanAsksSegmentsTooShortForTheirBox) {
+    for (const double tiny : {1e-150, 1e-160, 1e-200, 3e-320}) {
+        Points points;
+        for (int i = 0; i < 4; ++i) points.emplace_back(tiny * (i % 2), tiny * (i / 2));
+        for (int i = 1; i < 200; ++i) points.emplace_back(i, 0.25 * (i % 3));
+        for (const bool closed : {false, true}) {
+            const gk_Segments segments(points, closed);
+            for (const gkVector<2>& p :
+                 {gkVector<2>(120, 1), gkVector<2>(64.5, 0.1), gkVector<2>(0, 1), gkVector<2>(2.5, 0.5)}) {
+                EXPECT_EQ(answer([&] { return oracle::closestPoint(points, closed, p, false); }),
+                          answer([&] { return pointOn(segments, gk_NearestSegment(segments, p), p); }))
+                    << tiny << ' ' << p;
+            }
+        }
+    }
+}
+
 TEST(NearestSearch, TreeFindsTheSegmentOfTheScan) {
     std::uint64_t trees = 0;
     search::each(12, [&](const Points& points, std::uint64_t seed) {

@@ -470,6 +470,42 @@ TEST(SetSearch, ANullHandleIsRefusedWhenItIsAsked) {
     }
 }
 
+TEST(SetSearch, ANullHandleAsAHoleIsRefusedWhenItIsAsked) {
+    const Pair pair = lattice();
+    gkRegion square(*pair.members[24]);
+    Bytes bytes = written(square);
+    bytes[bytes.size() - 4] = 1; // holes, of which none follows; now one, of no object
+    bytes.insert(bytes.end(), 4, 0);
+    load(bytes, *pair.members[24]);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_TRUE(pair.set.inside({1, 1}, true));
+        EXPECT_TRUE(pair.set.inside({13, 13}, false));
+        EXPECT_THROW(pair.set.inside({13, 13}, true), gkBadPointer);
+        EXPECT_THROW(pair.set.distToPoint({13, 13}, false, true, false), gkBadPointer);
+    }
+}
+
+// The squares of their distances are nothing, so there is nothing to order them by.
+TEST(SetSearch, OfTinyRegionsAboutTheOriginAnswersLikeAWalk) {
+    Pair pair;
+    for (int i = 0; i < 40; ++i) pair.add(gkRegion(square(i * 1e-110, -i * 1e-110, 1e-111)));
+    pair.listed();
+    for (int i = 0; i < 4; ++i) pair.compare({{0, 0}, {1e-110, 2e-110}, {3.5e-109, -3.5e-109}, {1, 1}});
+}
+
+// Of the identity's key less and greater ones: neither takes its place.
+TEST(SetSearch, BoxesOfOtherTransformsLeaveTheIdentitysAlone) {
+    const Pair pair = lattice();
+    for (int i = 0; i < 3; ++i) pair.compareInside({13, 13});
+    for (const double by : {-5.0, 5.0}) {
+        for (const Members& members : {pair.members, pair.walked})
+            members[24]->encloseRect(gkXform<2>(gkMatrix<2>(1, 0, 0, 1), {by, 0}));
+        pair.compareInside({13, 13});
+        pair.compareDistances({13, 13});
+    }
+    pair.compareKeptBoxes();
+}
+
 TEST(SetSearch, OfAnEdgeletSetSeesChangedData) {
     std::vector<gkPtrHandle<EdgeletRegion>> members;
     for (int i = 0; i < 40; ++i) {

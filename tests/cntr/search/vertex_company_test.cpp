@@ -55,6 +55,7 @@ TEST(VertexCompany, OfVerticesFarAwayAndAtInfinity) {
 }
 
 TEST(VertexCompany, ANanIsRefused) {
-    const Points points = {{0, 0}, {std::numeric_limits<double>::quiet_NaN(), 0}, {1, 0}};
-    EXPECT_ANY_THROW(gk_VertexCompany(points, 1e-6));
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    for (const gkVector<2>& bad : {gkVector<2>(nan, 0), gkVector<2>(0, nan)})
+        EXPECT_ANY_THROW(gk_VertexCompany({{0, 0}, bad, {1, 0}}, 1e-6));
 }

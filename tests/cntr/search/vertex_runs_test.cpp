@@ -32,6 +32,11 @@ gkXform<2> transform(gen::Random& random) {
     return gkXform<2>(gkMatrix<2>(number(), number(), number(), number()), gkVector<2>(number(), number()));
 }
 
+struct Rightwards {
+    double operator()(const gkVector<2>& vertex) const { return vertex.x(); }
+    gkVector<2> corner(const gk_Box& box) const { return {box.x1, box.y1}; }
+};
+
 } // namespace
 
 TEST(VertexRuns, KnowTheVertexFarthestInEveryDirection) {
@@ -91,4 +96,19 @@ TEST(VertexRuns, TakeTheFirstOfEqualScores) {
                       answer([&] { return gk_EncloseRect(points, runs, xform); }));
         }
     }
+}
+
+TEST(VertexRuns, OfNoVerticesHaveNoGreatestScore) {
+    EXPECT_EQ(-1, gk_VertexRuns(Points()).firstGreatest(Points(), Rightwards()));
+    Points points;
+    for (int i = 0; i < 600; ++i) points.emplace_back(i < 300 ? i : 599 - i, 0);
+    EXPECT_EQ(299, gk_VertexRuns(points).firstGreatest(points, Rightwards()));
+}
+
+TEST(VertexRuns, OfNoNumbersHaveTheBoxOfTheScan) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const Points points(40, {nan, nan});
+    const gkXform<2> xform(gkMatrix<2>(2, 1, -1, 3), gkVector<2>(5, 7));
+    EXPECT_EQ(answer([&] { return oracle::encloseRect(points, xform); }),
+              answer([&] { return gk_EncloseRect(points, gk_VertexRuns(points), xform); }));
 }

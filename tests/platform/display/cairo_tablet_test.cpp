@@ -237,10 +237,12 @@ TEST_F(CairoTablet, LeavesOutCallsWithNaNOrInfinity) {
         tablet.drawCircle({4, 4}, bad, gkColor::red(), layer);
         tablet.drawEllipse({4, 4}, {2, bad}, gkRadian(0), gkColor::red(), layer);
         tablet.drawEllipse({4, 4}, {2, 3}, gkRadian(bad), gkColor::red(), layer);
+        tablet.drawEllipse({bad, 4}, {2, 3}, gkRadian(0), gkColor::red(), layer);
         tablet.drawPoint({bad, 4}, gkColor::red(), layer);
         tablet.drawText({1, bad}, "a", 5, gkColor::red(), layer);
         tablet.drawText({1, 7}, "a", bad, gkColor::red(), layer);
         tablet.drawImage({0, 0}, {bad, 8}, redAndBlue(), layer);
+        tablet.drawImage({bad, 0}, {8, 8}, redAndBlue(), layer);
     }
     EXPECT_EQ(0, picture(tablet).painted());
 }

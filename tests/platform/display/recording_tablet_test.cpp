@@ -79,6 +79,14 @@ TEST(RecordingTablet, RecordsDifferInEachField) {
     for (const Record& other : others) EXPECT_TRUE(record != other);
 }
 
+TEST(RecordingTablet, ARecordOfNoKindDrawsNothing) {
+    Record record;
+    record.kind = static_cast<gkRecordingTablet::Kind>(7);
+    gkRecordingTablet tablet;
+    record.replay(tablet);
+    EXPECT_TRUE(tablet.records().empty());
+}
+
 TEST(RecordingTablet, ClearForgetsTheRecords) {
     gkRecordingTablet tablet;
     drawOneOfEach(tablet);

@@ -155,6 +155,7 @@ TEST(SvgTablet, LeavesOutCallsWithNaNOrInfinity) {
         tablet.drawEllipse({0, 0}, {1, bad}, gkRadian(0), gkColor(), layer);
         tablet.drawEllipse({0, 0}, {1, 1}, gkRadian(bad), gkColor(), layer);
         tablet.drawPoint({0, bad}, gkColor(), layer);
+        tablet.drawPoint({bad, 0}, gkColor(), layer);
         tablet.drawText({bad, 0}, "a", 1, gkColor(), layer);
         tablet.drawText({0, 0}, "a", bad, gkColor(), layer);
         tablet.drawImage({bad, 0}, {1, 1}, {1}, layer);
@@ -172,6 +173,8 @@ TEST(SvgTablet, LeavesOutWhatHasNoExtent) {
     tablet.drawText({0, 0}, "a", 0, gkColor(), layer);
     tablet.drawImage({0, 0}, {0, 1}, {1}, layer);
     tablet.drawImage({0, 0}, {1, 1}, {}, layer);
+    tablet.strokeWidth(1.7e308); // a dot of half as much again would be infinite
+    tablet.drawPoint({0, 0}, gkColor(), layer);
     EXPECT_EQ(document("", "", ""), tablet.svg());
 }
 

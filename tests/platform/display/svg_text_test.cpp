@@ -64,6 +64,12 @@ TEST(CleanText, KeepsUtf8OfAllLengths) {
     EXPECT_EQ(text, gk_CleanText::clean(text));
 }
 
+TEST(CleanText, KeepsTheFirstAndTheLastCharactersOfEachLength) {
+    for (const std::string text : {"\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
+                                   "\xEF\xBF\xBD", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"})
+        EXPECT_EQ(text, gk_CleanText::clean(text));
+}
+
 TEST(CleanText, ControlCharactersBecomeSpaces) {
     EXPECT_EQ("a b c d e", gk_CleanText::clean(std::string("a\nb\tc\x7F"
                                                            "d\0e",
@@ -78,6 +84,8 @@ TEST(CleanText, EachIllFormedByteBecomesAReplacementCharacter) {
     EXPECT_EQ(bad + "a", gk_CleanText::clean("\xC3"
                                              "a"));                  // tail missing
     EXPECT_EQ(bad + bad, gk_CleanText::clean("\xE2\x82"));           // three bytes cut to two
+    EXPECT_EQ(bad + bad, gk_CleanText::clean("\xF0\x9D"));           // four bytes cut to two
+    EXPECT_EQ(bad + bad + bad, gk_CleanText::clean("\xF0\x9D\x84")); // and to three
     EXPECT_EQ(bad + bad, gk_CleanText::clean("\xC0\xAF"));           // overlong slash
     EXPECT_EQ(bad + bad + bad, gk_CleanText::clean("\xE0\x80\xAF")); // overlong slash, three bytes
     EXPECT_EQ(bad + bad + bad + bad, gk_CleanText::clean("\xF0\x80\x80\xAF"));

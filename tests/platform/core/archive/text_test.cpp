@@ -104,5 +104,15 @@ TEST(Utf8, RefusesHalvesOfSurrogatePairs) {
     EXPECT_FALSE(gk_Utf8::narrow(std::u16string{low}, utf8));
     EXPECT_FALSE(gk_Utf8::narrow(std::u16string{high, u'a'}, utf8));
     EXPECT_FALSE(gk_Utf8::narrow(std::u16string{high, high}, utf8));
+    EXPECT_FALSE(gk_Utf8::narrow(std::u16string{high, 0xE000}, utf8));
     EXPECT_FALSE(gk_Utf8::narrow(std::u16string{low, high}, utf8));
+}
+
+TEST(Utf8, IsNotWidenedWhereItIsNotUtf8) {
+    std::u16string wide16;
+    std::u32string wide32;
+    for (const char* text : {"\xff", "a\x80", "\xf0\x9d\x84", "\xed\xa0\x80"}) {
+        EXPECT_FALSE(gk_Utf8::widen(text, wide16)) << text;
+        EXPECT_FALSE(gk_Utf8::widen(text, wide32)) << text;
+    }
 }

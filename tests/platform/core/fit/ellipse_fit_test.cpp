@@ -331,6 +331,14 @@ TEST(EllipseFit, RefusesCollinearPoints) {
     }
 }
 
+// Four on a line and one beside it: the only conic through them is two lines. Rounding may leave a very thin
+// ellipse of it; of these it does not.
+TEST(EllipseFit, RefusesPointsOnTwoLines) {
+    EXPECT_THROW(fit({{-1, 1}, {-2, 0}, {2, -2}, {0, 0}, {1, -1}}), gkEllipseFitDefs::Degenerate);
+    EXPECT_THROW(fit({{0, 1}, {0, 2}, {0, 0}, {0, -1}, {-2, -3}}), gkEllipseFitDefs::Degenerate);
+    EXPECT_THROW(fit({{0, -1}, {0, 0}, {0, 1}, {1, 2}, {0, -2}}), gkEllipseFitDefs::Degenerate);
+}
+
 TEST(EllipseFit, RefusesPointsThatAreNotFinite) {
     Points points = pointsOf({0, 0, 2, 1, 0}, 9);
     points[4].y(std::numeric_limits<double>::quiet_NaN());

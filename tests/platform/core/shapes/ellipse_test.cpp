@@ -117,6 +117,10 @@ TEST(Ellipse, OfAHoleContainsItsOutsideAndItsVertices) {
     EXPECT_TRUE(hole.within({5, 0}));
     EXPECT_EQ(3.0, gkEllipse(Geom({0, 0}, {3, 3}, gkRadian(0.0), false, true)).distToPoint({0, 0}));
     EXPECT_TRUE(gkEllipse(Geom({0, 0}, {0, 0}, gkRadian(0.0), false, true)).within({0, 0}));
+    const gkEllipse thin(Geom({0, 0}, {3, 0}, gkRadian(0.0), false, true));
+    EXPECT_TRUE(thin.within({1, 0}));
+    EXPECT_TRUE(thin.within({1, 1}));
+    EXPECT_FALSE(thin.within({std::numeric_limits<double>::quiet_NaN(), 0}));
 }
 
 TEST(Ellipse, OfZeroRadiiContainsOnlyItself) {
@@ -169,6 +173,7 @@ TEST(Ellipse, DistanceIsScaledExactlyByPowersOfTwo) {
 TEST(Ellipse, DistanceIsNaNUnlessEverythingIsFinite) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_TRUE(std::isnan(upright(nan, 3).distToPoint({1, 1})));
+    EXPECT_TRUE(std::isnan(upright(5, nan).distToPoint({1, 1})));
     EXPECT_TRUE(std::isnan(upright(5, 3).distToPoint({nan, 1})));
     EXPECT_TRUE(std::isnan(upright(HUGE_VAL, 3).distToPoint({1, 1})));
     EXPECT_TRUE(std::isnan(upright(5, 3).distToPoint({1, HUGE_VAL})));

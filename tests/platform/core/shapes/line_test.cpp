@@ -175,6 +175,7 @@ TEST(LineSeg, KeepsItsEndsInOrder) {
     EXPECT_EQ(gkLine({1, 2}, {3, 4}), seg.line());
     EXPECT_EQ(5, seg.length());
     EXPECT_NE(seg, gkLineSeg({4, 6}, {1, 2}));
+    EXPECT_NE(seg, gkLineSeg({1, 2}, {4, 7}));
 }
 
 TEST(LineSeg, DistanceIsToTheEndsBeyondThemAndToTheLineBetween) {

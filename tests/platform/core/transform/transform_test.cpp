@@ -14,6 +14,12 @@ const gkXform<2>& xformOf(const gkPtrHandle_const<gk2XformBase>& handle) {
     return dynamic_cast<const gk2XformLinear&>(*handle).xform();
 }
 
+class BaseAssigned : public gk2XformLinear {
+public:
+    using gk2XformLinear::gk2XformLinear;
+    void assignBase(const gk2XformLinear& other) { gk2XformBase::operator=(other); }
+};
+
 } // namespace
 
 TEST(LinearTransform, IsTheIdentityByDefault) {
@@ -81,6 +87,13 @@ TEST(LinearTransform, ComparesExactly) {
     EXPECT_EQ(kStretch, assigned.xform());
 }
 
+// The base holds nothing.
+TEST(LinearTransform, KeepsItsTransformWhereOnlyItsBaseIsAssigned) {
+    BaseAssigned assigned(kStretch);
+    assigned.assignBase(gk2XformLinear());
+    EXPECT_EQ(kStretch, assigned.xform());
+}
+
 TEST(Rigid, TurnsThenMoves) {
     const gk2Rigid quarter(gkDegree(90.0), {10, 0});
     const gkVector<2> image = quarter.mapPoint({1, 0});
@@ -101,5 +114,6 @@ TEST(Rigid, AngleAndTranslationAreKeptAsGiven) {
     EXPECT_EQ(gkVector<2>(3, -2), pose.translation());
     EXPECT_TRUE(pose == gk2Rigid(gkRadian(9.0), {3, -2}));
     EXPECT_TRUE(pose != gk2Rigid());
+    EXPECT_TRUE(pose != gk2Rigid(gkRadian(9.0), {3, -1}));
     EXPECT_EQ(gkXform<2>(), gk2Rigid().xform());
 }
