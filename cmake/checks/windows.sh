@@ -56,6 +56,7 @@ ctest --test-dir "$linux" -N -V -L linux_only | sed -n 's/^.*Test command: \([^ 
         gdb) why="shows shapes of a program for Linux in its debugger" ;;
         hostile_test) why="counts memory by an operator new of its own, which a DLL would not use" ;;
         interop_opencv_test) why="works with OpenCV" ;;
+        memory_cairo_test) why="draws with Cairo, and lets requests for memory fail by an operator new of its own" ;;
         memory_test) why="lets requests for memory fail by an operator new of its own, which a DLL would not use" ;;
         python*) why="changes sources to see whether tests notice, and needs no library" ;;
         platform_cairo_test) why="draws with Cairo" ;;
