@@ -57,7 +57,7 @@ public:
     bool number_float(number_float_t, const string_t&) override { return number(); }
     bool string(string_t& value) override { return text(gk_JsonToken::eString, value); }
     bool key(string_t& value) override { return text(gk_JsonToken::eName, value); }
-    bool binary(binary_t&) override { return false; } // no event of text
+    bool binary(binary_t&) override { return false; } // GCOVR_EXCL_LINE: no event of text
     bool start_object(std::size_t) override { return begin(gk_JsonToken::eObject); }
     bool start_array(std::size_t) override { return begin(gk_JsonToken::eArray); }
     bool end_object() override { return finish(); }
