@@ -9,6 +9,9 @@
 
 namespace {
 
+// The first edges of most outlines can start; of those behind them so many are tried together.
+constexpr long kEdgesTogether = 8;
+
 // Also true of equal NaNs and false of 0.0 and -0.0: the walk's steps follow from the bits.
 bool sameBits(double a, double b) {
     std::uint64_t left = 0;
@@ -81,6 +84,13 @@ private:
     unsigned long long limit_ = 1;
 };
 
+gk_Box boxOfEdges(const gk_Outline& outline, long first) {
+    gk_Box box = gk_Box::of(outline[first], outline[first]);
+    const long last = std::min(first + kEdgesTogether, outline.size() - 1);
+    for (long i = first + 1; i <= last; ++i) box = box.enclosing(gk_Box::of(outline[i], outline[i]));
+    return box;
+}
+
 } // namespace
 
 long gk_StartEdge(gk_Outline& outline, double probe) {
@@ -88,6 +98,7 @@ long gk_StartEdge(gk_Outline& outline, double probe) {
     gk_RaysMet metByA;
     gk_RaysMet metByB;
     for (long i = 0; i < outline.size() - 1; ++i) {
+        if (i % kEdgesTogether == 1) outline.expectPlaces(boxOfEdges(outline, i).grownBy(1.01 * probe));
         if (canStart(outline, i, probe, metByA, metByB)) return i;
     }
     throw gkContourDefs::BadParams(L"invalid contour");

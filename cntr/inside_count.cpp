@@ -43,28 +43,20 @@ public:
 
     // Not above the turn of any vertex in the box.
     double leastTurn(const gk_Box& box) const {
-        const double left = box.x0 - point_.x();
-        const double right = box.x1 - point_.x();
-        const double down = box.y0 - point_.y();
-        const double up = box.y1 - point_.y();
-        if (right >= -slack_ && down <= slack_ && up >= -slack_) return 0.0;
-        return std::min({gk_QuarterTurns(left, down), gk_QuarterTurns(left, up), gk_QuarterTurns(right, down),
-                         gk_QuarterTurns(right, up)}) -
-               kRoom;
+        return gk_LeastTurn(
+            {box.x0 - point_.x(), box.y0 - point_.y(), box.x1 - point_.x(), box.y1 - point_.y()}, slack_);
     }
 
     // Not below the turn of a direction that is computed as `angle` or less, which is below a full turn.
     static double greatestTurn(double angle) {
         const gk_Trig::SinCos side = gk_Trig::sinCos(angle);
-        return gk_QuarterTurns(side.cos, side.sin) + kRoom;
+        return gk_QuarterTurns(side.cos, side.sin) + kRoundedTurn;
     }
 
     // Of two directions the one whose turn is less by more than this is the lesser as it is computed.
     static constexpr double kTurnRoom = 4e-12;
 
 private:
-    static constexpr double kRoom = 1e-12; // thousands of the roundings of a turn
-
     gkVector<2> point_;
     double slack_;
 };

@@ -56,8 +56,17 @@ bool gk_Outline::hasCrossingsBeside(long segment, const gkLineSeg& seg, bool inc
     return found == count;
 }
 
+void gk_Outline::gatherAhead() {
+    if (!expected_) return;
+    if (!ahead_) ahead_ = search_.raysAhead(segments(), rayLength());
+    if (ahead_) ahead_->gather(segments(), *expected_);
+    expected_.reset();
+}
+
 bool gk_Outline::seesOutside(const gkVector<2>& point, gk_RaysMet& met) {
     if (!box().within(point)) return true;
+    gatherAhead();
+    if (ahead_ && ahead_->bothMeet(segments(), point, met)) return false;
     return search_.seesOutside(segments(), point, rayLength(), met);
 }
 

@@ -46,6 +46,8 @@ public:
         return close_ && close_->hasNone(static_cast<std::size_t>(segment));
     }
 
+    // The next questions seesOutside(), if there are any, are about places in the box.
+    void expectPlaces(const gk_Box& places) { expected_ = places; }
     // Whether a ray or its opposite leaves without a crossing. `met` names segments to try first and receives
     // those that the rays met.
     bool seesOutside(const gkVector<2>& point, gk_RaysMet& met);
@@ -55,6 +57,7 @@ public:
 private:
     template <class Visit>
     void visitCrossingsClose(long segment, const gk_CrossingTest& query, Visit visit) const;
+    void gatherAhead();
     const gkRect& box();
     double rayLength();
     gk_Segments segments() const { return gk_Segments(points_, true); }
@@ -65,6 +68,8 @@ private:
     std::optional<double> rayLength_;
     gk_OutlineSearch search_;
     std::optional<gk_CloseSegments> close_;
+    std::optional<gk_Box> expected_;
+    std::optional<gk_RaysAhead> ahead_;
 };
 
 #endif

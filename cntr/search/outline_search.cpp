@@ -234,6 +234,10 @@ bool gk_OutlineSearch::seesOutside(const gk_Segments& outline, const gkVector<2>
     return !meets(point + ray, met.forward) || !meets(point - ray, met.backward);
 }
 
+std::optional<gk_RaysAhead> gk_OutlineSearch::raysAhead(const gk_Segments& outline, double rayLength) {
+    return tree(outline) == nullptr ? std::nullopt : gk_RaysAhead::of(outline, tree_, rayLength);
+}
+
 gk_Inside gk_OutlineSearch::insideByScan(const gk_Segments& outline, const gkVector<2>& point) {
     const bool hasCells = isFrom(kCellsFrom, askedInside_) && cellsWithParity(outline);
     if (hasCells || !gk_IsModerate(point) || (ownBox_ && !ownBox_->holds(point))) return gk_Inside::eUnknown;

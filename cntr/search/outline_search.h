@@ -7,6 +7,7 @@
 #include "cntr/search/close_segments.h"
 #include "cntr/search/inside_certificate.h"
 #include "cntr/search/outer_vertices.h"
+#include "cntr/search/rays_ahead.h"
 #include "cntr/search/segment_cells.h"
 #include "cntr/search/segment_tree.h"
 #include "cntr/search/vertex_cells.h"
@@ -23,12 +24,6 @@
 #include <optional>
 #include <utility>
 #include <vector>
-
-// Segments that a ray and its opposite met: rays that start nearby often meet them or their neighbours.
-struct gk_RaysMet {
-    std::size_t forward = 0;
-    std::size_t backward = 0;
-};
 
 // Belongs to one outline and is thrown away when that changes; every question brings the outline along. Copies
 // share what has been built, which never changes.
@@ -72,6 +67,8 @@ public:
     long insideCount(const gk_Segments& outline, const gkVector<2>& point, double rayLength, bool bothWays);
     // Whether the count both ways is 0.
     bool seesOutside(const gk_Segments& outline, const gkVector<2>& point, double rayLength, gk_RaysMet& met);
+    // None for an outline without an index. Builds the index.
+    std::optional<gk_RaysAhead> raysAhead(const gk_Segments& outline, double rayLength);
     // Whether that count is odd, where it is known without counting. The first questions are answered by a
     // scan, which needs no ray and brings the box along for encloseRect(); later ones from cells.
     gk_Inside insideByScan(const gk_Segments& outline, const gkVector<2>& point);
