@@ -12,16 +12,17 @@ enum class gk_Inside { eOutside, eInside, eUnknown };
 // than pi / n; there is always one, for n gaps make a full turn. So the ray keeps an angle of pi / 2n from
 // every vertex, and a vertex at distance r from the point keeps r sin(pi / 2n) from the ray's line. Let t be
 // four touches and the slack of all distances involved. Suppose
-//   - the slack is a small part of a touch,
+//   - the slack is a small part of a touch, so small that D is below 2e6,
 //   - every vertex is at least t / sin(pi / 2n) from the point,
 //   - every segment is farther than t from the point, and
 //   - every place D from the point is farther than t from the outline, and outside it.
 // Then each segment either has both ends on one side of the ray's line and farther than t from it, and is not
 // counted; or its ends are on opposite sides, both farther than t from the line, so that it is not parallel to
-// it. Rounding moves the computed crossing along both lines, by less than a touch across either. So a crossing
-// on the ray is found within a touch of both and counts once, and one before the ray's start or behind its end,
-// where the segment passes farther than t, does not. The count then has the parity of the crossings on a way
-// from the point to the outside.
+// it: no segment is longer than D, so the sine is at least 2 t / D, four times that of parallel lines. Rounding
+// moves the computed crossing along both lines, by less than a touch across either. So a crossing on the ray is
+// found within a touch of both and counts once, and one before the ray's start or behind its end, where the
+// segment passes farther than t, does not. The count then has the parity of the crossings on a way from the
+// point to the outside.
 struct gk_InsideMargins {
     double segment; // t
     double vertex;  // t / sin(pi / 2n) and a little more
@@ -41,7 +42,7 @@ struct gk_InsideMargins {
 class gk_InsideCertificate {
 public:
     // The slack that is small enough for any ray.
-    static constexpr double kMostSlack = 1e-6;
+    static constexpr double kMostSlack = 1e-7;
 
     // `first` is vertex 0, `rayLength` = D twice the distance of the farthest vertex from it, `box` the
     // vertices' own.

@@ -78,7 +78,7 @@ TEST(InsideSearch, AScanTakesTheBoxOfModerateNumbersOnly) {
     }
 }
 
-// Where a ray may be twice 1.2e7 long, its crossings are not exact enough, wherever the origin lies.
+// Where a ray may be twice 1.2e6 long, its crossings are not exact enough, wherever the origin lies.
 TEST(InsideSearch, AScanOfAnOutlineTooWideForExactRaysKnowsNothing) {
     for (const bool isUpright : {false, true}) {
         const auto inside = [&](double reach) {
@@ -87,8 +87,8 @@ TEST(InsideSearch, AScanOfAnOutlineTooWideForExactRaysKnowsNothing) {
                 for (gkVector<2>& p : points) p = gkVector<2>(p.y(), p.x());
             return gk_ScanInside(gk_Segments(points, true), {1, 1}).inside;
         };
-        EXPECT_EQ(gk_Inside::eInside, inside(6e5));
-        EXPECT_EQ(gk_Inside::eUnknown, inside(6e6));
+        EXPECT_EQ(gk_Inside::eInside, inside(6e4));
+        EXPECT_EQ(gk_Inside::eUnknown, inside(6e5));
     }
 }
 
@@ -215,6 +215,17 @@ TEST(InsideSearch, RayOfFarCoordinatesIsNotCertified) {
     // At 1e10 a crossing is computed some 1e-6 off its segments, and the plain count misses some.
     const gk_InsideCertificate certificate(4, {1e10, 0}, 2e10, {0, 0, 1e10, 1e10});
     EXPECT_FALSE(certificate.allowsRaysFrom({5e9, 1e9}));
+}
+
+TEST(InsideSearch, NoCertifiedRayCanBeParallelToASegmentThatItMeets) {
+    for (double size = 1.0; size < 1e9; size *= 1.5) {
+        const double longest = 2.0 * std::sqrt(2.0) * size; // the ray, and no segment is longer
+        const gk_InsideCertificate certificate(4, {0, 0}, longest, {0, 0, size, size});
+        EXPECT_EQ(size < 4.5e5, certificate.isExact()) << size;
+        if (certificate.isExact()) {
+            EXPECT_LT(4.0 * gkLine::kParallelSine, 2.0 * certificate.margins().segment / longest) << size;
+        }
+    }
 }
 
 TEST(InsideSearch, RayThatMayEndInsideIsNotCertified) {
