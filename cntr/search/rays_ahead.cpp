@@ -85,11 +85,12 @@ public:
         const gkVector<2> end = place_ + direction_ * length;
         const gk_Box around = gk_Box::of(place_, end);
         const gk_LineSide side(place_, end, std::max(tree.reach(), gk_Reach(end)));
-        return tree.any([&](const gk_Box& box) { return box.overlaps(around) && !side.rejects(box); },
-                        [&](std::size_t run) {
-                            const gk_SegmentTree::Range range = tree.segmentsOf(run);
-                            return meetsAny(outline, range.begin, range.end, met);
-                        });
+        return tree.anyOverlapping(
+            around, [&](const gk_Box& box) { return !side.rejects(box); },
+            [&](std::size_t run) {
+                const gk_SegmentTree::Range range = tree.segmentsOf(run);
+                return meetsAny(outline, range.begin, range.end, met);
+            });
     }
 
 private:
