@@ -40,12 +40,13 @@ public:
         : p_(p), tolerance_(tolerance), middle_(cellOf(p, tolerance)) {}
 
     bool reaches(const gkVector<2>& vertex) const { return gk_VectorOps::distance(vertex, p_) < tolerance_; }
+    bool holds(const Cell& cell) const {
+        return middle_.column - 1 <= cell.column && cell.column <= middle_.column + 1 &&
+               middle_.row - 1 <= cell.row && cell.row <= middle_.row + 1;
+    }
 
-    // A vertex that is reached, unless its cell is beyond the block.
+    // A vertex that is reached, in a cell of the block.
     void add(const Cell& cell, std::size_t index) {
-        const bool inBlock = middle_.column - 1 <= cell.column && cell.column <= middle_.column + 1 &&
-                             middle_.row - 1 <= cell.row && cell.row <= middle_.row + 1;
-        if (!inBlock) return;
         if (found_.empty()) found_.reserve(kUsual);
         found_.emplace_back(cell.column, cell.row, gk_IndexAs<int>(index));
     }
@@ -89,7 +90,9 @@ std::vector<int> gk_VertexCells::near(const std::vector<gkVector<2>>& points, co
         const gk_Box around = gk_Box::of(p, p).grownBy(reach);
         Block block(p, tolerance);
         tree->allOverlapping(around, [&](std::size_t i) {
-            if (around.holds(points[i]) && block.reaches(points[i])) block.add(cellOf(points[i], tolerance), i);
+            if (!around.holds(points[i]) || !block.reaches(points[i])) return;
+            const Cell cell = cellOf(points[i], tolerance);
+            if (block.holds(cell)) block.add(cell, i);
         });
         return block.ordered();
     }
@@ -99,6 +102,6 @@ std::vector<int> gk_VertexCells::near(const std::vector<gkVector<2>>& points, co
     if (!holds(tolerance)) tolerances_.push_back(tolerance);
     Block block(p, tolerance);
     for (std::size_t i = 0; i < points.size(); ++i)
-        if (block.reaches(points[i])) block.add(cells[i], i);
+        if (block.holds(cells[i]) && block.reaches(points[i])) block.add(cells[i], i);
     return block.ordered();
 }
