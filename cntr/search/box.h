@@ -26,7 +26,9 @@ struct gk_Box {
         return (x1 >= other.x0) & (x0 <= other.x1) & (y1 >= other.y0) & (y0 <= other.y1);
     }
     bool holds(const gkVector<2>& p) const {
-        return (x0 <= p.x()) & (p.x() <= x1) & (y0 <= p.y()) & (p.y() <= y1);
+        const double x = p.x();
+        const double y = p.y();
+        return (x0 <= x) & (x <= x1) & (y0 <= y) & (y <= y1);
     }
     gk_Box enclosing(const gk_Box& other) const {
         return {std::min(x0, other.x0), std::min(y0, other.y0), std::max(x1, other.x1), std::max(y1, other.y1)};
