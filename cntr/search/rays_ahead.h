@@ -52,7 +52,7 @@ private:
 
     struct Ahead {
         gkVector<2> offset; // from a place
-        double turn;
+        double turn = 0.0;
         bool operator<(const Ahead& other) const { return turn > other.turn; } // a heap's top is the least
     };
 
