@@ -26,12 +26,7 @@ public:
     // A visit that returns true ends it; tells whether one did.
     template <class Wanted, class Visit> bool any(Wanted wanted, Visit visit) const {
         const auto choose = [&](const gk_EightBoxes& boxes, unsigned among) {
-            unsigned chosen = 0;
-            for (; among != 0; among &= among - 1) {
-                const std::size_t i = gk_LowestBit(among);
-                chosen |= (wanted(boxes.box(i)) ? 1u : 0u) << i;
-            }
-            return chosen;
+            return chosen(among, [&](std::size_t i) { return wanted(boxes.box(i)); });
         };
         return wanted(box()) && anyChosen(choose, visit);
     }
@@ -40,13 +35,8 @@ public:
     template <class Wanted, class Visit>
     bool anyOverlapping(const gk_Box& other, Wanted wanted, Visit visit) const {
         const auto choose = [&](const gk_EightBoxes& boxes, unsigned among) {
-            among &= boxes.overlapping(other);
-            unsigned chosen = among;
-            for (; among != 0; among &= among - 1) {
-                const std::size_t i = gk_LowestBit(among);
-                if (!wanted(boxes.box(i))) chosen ^= 1u << i;
-            }
-            return chosen;
+            return chosen(among & boxes.overlapping(other),
+                          [&](std::size_t i) { return wanted(boxes.box(i)); });
         };
         return box().overlaps(other) && wanted(box()) && anyChosen(choose, visit);
     }
@@ -113,12 +103,8 @@ public:
         const auto choose = [&](const gk_Box& box, const gk_EightBoxes& others, const gk_Box& around,
                                 unsigned among) {
             if (!wanted(box, around)) return 0u;
-            unsigned chosen = 0;
-            for (; among != 0; among &= among - 1) {
-                const std::size_t i = gk_LowestBit(among);
-                chosen |= (wanted(box, others.box(i)) ? 1u : 0u) << i;
-            }
-            return chosen;
+            // Copies, which no compiler reads anew for each of the boxes.
+            return chosen(among, [=, &others](std::size_t i) { return wanted(box, others.box(i)); });
         };
         const auto isNone = [](std::size_t, std::size_t) { return false; };
         return anyPairWithin(top(), 0, choose, isNone, visit);
@@ -159,6 +145,16 @@ private:
         std::size_t size_ = 0;
     };
 
+    // Those of the bits whose number wanted(number) accepts.
+    template <class Wanted> static unsigned chosen(unsigned bits, Wanted wanted) {
+        unsigned those = bits;
+        for (; bits != 0; bits &= bits - 1) {
+            const std::size_t i = gk_LowestBit(bits);
+            if (!wanted(i)) those ^= 1u << i;
+        }
+        return those;
+    }
+
     // Of a hierarchy whose box at the top is wanted; choose(eight boxes, bits) gives those bits whose boxes
     // are.
     template <class Choose, class Visit> bool anyChosen(Choose choose, Visit visit) const {
@@ -168,9 +164,9 @@ private:
         while (!pending.empty()) {
             const Node node = pending.pop();
             const std::size_t first = node.position * kFan;
-            unsigned chosen = choose(under(node.level, node.position), allUnder(node.level, node.position));
-            for (; chosen != 0; chosen &= chosen - 1) {
-                const std::size_t position = first + gk_LowestBit(chosen);
+            unsigned those = choose(under(node.level, node.position), allUnder(node.level, node.position));
+            for (; those != 0; those &= those - 1) {
+                const std::size_t position = first + gk_LowestBit(those);
                 if (node.level > 1)
                     pending.push({node.level - 1, position, 0.0});
                 else if (visit(position))
