@@ -33,6 +33,9 @@ public:
             collectOwned(region);
         } else if (const auto* set = dynamic_cast<const gkRegionSet*>(object)) {
             for (const auto& member : set->regions()) collectShared(member.rep());
+            // An archive may give a set of edgelet regions others than its plain ones.
+            if (const auto* edgelets = dynamic_cast<const gkRegionSetT<gkEdgelet>*>(set))
+                for (const auto& member : edgelets->regionsT()) collectShared(member.rep());
         }
     }
     const std::set<const gkRegion*>& all() const { return known_; }
