@@ -11,8 +11,8 @@ enum class gk_Inside { eOutside, eInside, eUnknown };
 // The plain count casts a ray of length D through the middle of a gap between vertex directions that is wider
 // than pi / n; there is always one, for n gaps make a full turn. So the ray keeps an angle of pi / 2n from
 // every vertex, and a vertex at distance r from the point keeps r sin(pi / 2n) from the ray's line. Let t be
-// four touches and the slack of all distances involved. Suppose
-//   - the slack is a small part of a touch, so small that D is below 2e6,
+// four touches, or 2e-12 D where that is more, and the slack of all distances involved. Suppose
+//   - the slack is at most half a touch,
 //   - every vertex is at least t / sin(pi / 2n) from the point,
 //   - every segment is farther than t from the point, and
 //   - every place D from the point is farther than t from the outline, and outside it.
@@ -27,7 +27,8 @@ struct gk_InsideMargins {
     double segment; // t
     double vertex;  // t / sin(pi / 2n) and a little more
 
-    gk_InsideMargins(std::size_t vertexCount, double slack) : segment(4e-6 + slack) {
+    gk_InsideMargins(std::size_t vertexCount, double rayLength, double slack)
+        : segment(std::max(4e-6, 2e-12 * rayLength) + slack) {
         const double halfGap = 3.141592653589793 / (2.0 * static_cast<double>(vertexCount));
         const double leastSine = halfGap * (1.0 - halfGap * halfGap / 6.0); // the series' first two terms
         vertex = 1.01 * segment / leastSine;
@@ -42,7 +43,7 @@ struct gk_InsideMargins {
 class gk_InsideCertificate {
 public:
     // The slack that is small enough for any ray.
-    static constexpr double kMostSlack = 1e-7;
+    static constexpr double kMostSlack = 5e-7;
 
     // `first` is vertex 0, `rayLength` = D twice the distance of the farthest vertex from it, `box` the
     // vertices' own.
@@ -52,7 +53,7 @@ public:
     gk_InsideCertificate(std::size_t vertexCount, const gkVector<2>& first, double leastLength,
                          double greatestLength, const gk_Box& box)
         : first_(first), rayLength_(leastLength), box_(box), slack_(slackOf(greatestLength, box)),
-          margins_(vertexCount, slack_), aroundFirst_(rayLength_ / 2.0 - margins_.segment),
+          margins_(vertexCount, greatestLength, slack_), aroundFirst_(rayLength_ / 2.0 - margins_.segment),
           aroundPoint_(rayLength_ - margins_.segment) {}
 
     // Least distances of segments and of vertices from the point.

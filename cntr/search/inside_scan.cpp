@@ -64,6 +64,9 @@ private:
     bool odd_ = false;
 };
 
+// A longer ray needs more room at each vertex than a scan leaves.
+constexpr double kLongestRay = 2e6;
+
 // Of the box of some vertices, one of them given: bounds on twice the distance of the farthest from that one.
 gk_Inside certified(gk_Inside inside, const gk_Segments& outline, const gk_InsideMargins& margins,
                     const gk_Box& box, const gkVector<2>& point) {
@@ -81,7 +84,7 @@ gk_Inside certified(gk_Inside inside, const gk_Segments& outline, const gk_Insid
 // A NaN is passed over by comparisons: the sum of all coordinates finds it.
 gk_InsideScan gk_ScanInside(const gk_Segments& outline, const gkVector<2>& point) {
     constexpr std::size_t kAtOnce = 4;
-    const gk_InsideMargins margins(outline.vertexCount(), gk_InsideCertificate::kMostSlack);
+    const gk_InsideMargins margins(outline.vertexCount(), kLongestRay, gk_InsideCertificate::kMostSlack);
     Passage passage(margins, point);
     const gkVector<2>* before = &outline.first(0);
     gk_TwoDoubles sum;
