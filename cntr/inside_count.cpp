@@ -1,5 +1,6 @@
 #include "cntr/inside_count.h"
 
+#include "cntr/search/direction_columns.h"
 #include "cntr/search/magnitude.h"
 #include "cntr/search/turn.h"
 #include "platform/core/math/trig.h"
@@ -12,13 +13,15 @@ namespace {
 constexpr double kPi = 3.141592653589793;
 constexpr double kOnVertex = 1e-6; // vertex units
 constexpr double kFirstGaps = 8.0; // of pi / n: some four vertices where they are evenly spread
-constexpr double kGapGrowth = 4.0;
-constexpr double kMostTurn = 4.0;    // radians; looking at all directions costs no more than at most of them
-constexpr double kAngleRoom = 1e-12; // radians: thousands of the roundings of an angle
+constexpr double kGapGrowth = 3.0;
+constexpr double kMostTurn = 2.5;   // quarters; looking at all directions costs no more than at most of them
+constexpr double kSineRoom = 4e-11; // ten times the room of a turn
 
 bool isOn(const gkVector<2>& offset) { return !(gk_VectorOps::length(offset) > kOnVertex); }
 
 double directionOf(const gkVector<2>& offset) { return offset.angle().norm().toDouble(); }
+
+double squared(double number) { return number * number; }
 
 double gapBetween(double from, double to) { return gkRadian(to - from).norm().toDouble(); }
 
@@ -35,31 +38,19 @@ gkVector<2> throughFirstWideGap(std::vector<double>& angles) {
     return gkVector<2>(1.0, 0.0);
 }
 
-// Compares directions of boxes and vertices seen from a point; only to leave some out, so roundings are given
-// room.
-class View {
-public:
-    View(const gkVector<2>& point, double slack) : point_(point), slack_(slack) {}
+// Of the direction as it is computed, within kRoundedTurn.
+double turnOf(const gkVector<2>& offset) {
+    const double turn = gk_QuarterTurns(offset.x(), offset.y());
+    return turn == 4.0 && directionOf(offset) == 0.0 ? 0.0 : turn;
+}
 
-    // Not above the turn of any vertex in the box.
-    double leastTurn(const gk_Box& box) const {
-        return gk_LeastTurn(
-            {box.x0 - point_.x(), box.y0 - point_.y(), box.x1 - point_.x(), box.y1 - point_.y()}, slack_);
-    }
+// Of two directions the one whose turn is less by more than this is the lesser as it is computed.
+constexpr double kTurnRoom = 4e-12;
 
-    // Not below the turn of a direction that is computed as `angle` or less, which is below a full turn.
-    static double greatestTurn(double angle) {
-        const gk_Trig::SinCos side = gk_Trig::sinCos(angle);
-        return gk_QuarterTurns(side.cos, side.sin) + kRoundedTurn;
-    }
-
-    // Of two directions the one whose turn is less by more than this is the lesser as it is computed.
-    static constexpr double kTurnRoom = 4e-12;
-
-private:
-    gkVector<2> point_;
-    double slack_;
-};
+double turnOfAngle(double angle) {
+    const gk_Trig::SinCos side = gk_Trig::sinCos(angle);
+    return gk_QuarterTurns(side.cos, side.sin);
+}
 
 bool isOnVertex(const gk_Segments& outline, const gk_SegmentTree& tree, const gkVector<2>& point,
                 double slack) {
@@ -72,62 +63,42 @@ bool isOnVertex(const gk_Segments& outline, const gk_SegmentTree& tree, const gk
     });
 }
 
-// The least of all vertex directions above `after`, counted from the x direction; none when there is none.
-std::optional<double> nextDirection(const gk_Segments& outline, const gk_SegmentTree& tree,
-                                    const gkVector<2>& point, const View& view, double after) {
-    std::optional<double> least;
-    double leastTurn = 5.0;
-    tree.nearestFirst([&](const gk_Box& box) { return view.leastTurn(box); },
-                      [&] { return leastTurn + View::kTurnRoom; },
-                      [&](std::size_t run) {
-                          const gk_SegmentTree::Range range = tree.verticesOf(run);
-                          for (std::size_t i = range.begin; i < range.end; ++i) {
-                              const gkVector<2> offset = outline.vertex(i) - point;
-                              const double turn = gk_QuarterTurns(offset.x(), offset.y());
-                              if (turn > leastTurn + View::kTurnRoom) continue;
-                              const double angle = directionOf(offset);
-                              if (!(angle > after)) continue;
-                              leastTurn = std::min(leastTurn, turn);
-                              if (!least || angle < *least) least = angle;
-                          }
-                      });
-    return least;
+using Turns = gk_DirectionColumns::Range;
+
+// Not above the turn of any vertex in the box.
+double leastTurn(const gkVector<2>& point, const gk_Box& box) {
+    return gk_LeastTurn({box.x0 - point.x(), box.y0 - point.y(), box.x1 - point.x(), box.y1 - point.y()});
 }
 
-// The directions from the x direction on up to `widest`. Under a narrow angle a slope tells, for offsets as
-// they are computed have the exact signs.
+// The vertices whose turn is between two. Under a narrow angle a slope tells, for offsets as they are computed
+// have the exact signs.
 class Sector {
 public:
-    Sector(const View& view, const gkVector<2>& point, double begin, double end, double slack)
-        : view_(view), point_(point), slack_(slack), isNarrow_(end < kNarrow),
-          least_(isNarrow_ ? std::max(slopeOf(begin - kAngleRoom), 0.0) : 0.0),
-          greatest_(isNarrow_ ? slopeOf(end + kAngleRoom) : View::greatestTurn(end)) {}
+    Sector(const gkVector<2>& point, const Turns& turns, double slack)
+        : point_(point), slack_(slack), isNarrow_(turns.end < kNarrow),
+          least_(isNarrow_ ? std::max(slopeAt(turns.begin - kRoundedTurn), 0.0) : 0.0),
+          greatest_(isNarrow_ ? slopeAt(turns.end + kRoundedTurn) : turns.end + kRoundedTurn) {}
 
-    // False only when no direction to a vertex in the box is one of these.
+    // False only when no vertex in the box is one of these.
     bool mayHold(const gk_Box& box) const {
-        if (!isNarrow_) return view_.leastTurn(box) <= greatest_;
+        if (!isNarrow_) return leastTurn(point_, box) <= greatest_;
         const double left = box.x0 - point_.x();
         const double right = box.x1 - point_.x();
         return right >= -slack_ && box.y1 - point_.y() >= least_ * std::max(left, 0.0) - slack_ &&
                box.y0 - point_.y() <= greatest_ * std::max(right, 0.0) + slack_;
     }
-    bool mayHold(const gkVector<2>& vertex) const {
-        if (!isNarrow_) return view_.leastTurn(gk_Box::of(vertex, vertex)) <= greatest_;
-        const gkVector<2> offset = vertex - point_;
+    bool mayHold(const gkVector<2>& offset) const {
+        if (!isNarrow_) return true;
         const double across = std::max(offset.x(), 0.0);
         return offset.y() <= greatest_ * across + slack_ && offset.y() >= least_ * across - slack_ &&
                offset.x() >= -slack_;
     }
 
 private:
-    static constexpr double kNarrow = 1.5; // radians, below a right angle
+    static constexpr double kNarrow = 0.9; // quarter turns
 
-    static double slopeOf(double angle) {
-        const gk_Trig::SinCos side = gk_Trig::sinCos(angle);
-        return side.sin / side.cos;
-    }
+    static double slopeAt(double turn) { return turn / (1.0 - turn); }
 
-    const View& view_;
     gkVector<2> point_;
     double slack_;
     bool isNarrow_;
@@ -135,93 +106,133 @@ private:
     double greatest_; // a slope or a turn
 };
 
-// directionOf() within kAngleRoom, quicker where it can be. The series leaves out s^7 / 7.
-double nearlyDirectionOf(const gkVector<2>& offset) {
-    constexpr double kFlat = 0.02;
-    if (offset.y() > 0.0 && offset.y() < kFlat * offset.x()) {
-        const double s = offset.y() / offset.x();
-        return s * (1.0 - s * s * (1.0 / 3.0 - s * s * (1.0 / 5.0)));
-    }
-    return directionOf(offset);
-}
-
-// Looks for the first wide gap among the directions of some vertices. They are first compared as they are
-// nearly known, in columns half a gap wide, since no gap within a column or between two next to each other is
-// wide; what is computed as directionOf() decides.
-class Gaps {
+// The gaps are walked from angle 0 upwards, so the first wide one is known as soon as all directions up to it
+// are: those up to some gaps, then those of more gaps from the last one on. Where none comes for long the next
+// one is looked for by itself. Which gaps may be wide shows in columns; what is computed as directionOf()
+// decides.
+class GapSearch {
 public:
-    Gaps(const gk_Segments& outline, const gkVector<2>& point, double step, double begin, double gaps)
-        : outline_(outline), point_(point), step_(step), begin_(begin), end_(begin + gaps * step),
-          columns_(static_cast<std::size_t>(2.0 * gaps) + 1, Column{kNone, -kNone}) {}
+    GapSearch(const gk_Segments& outline, const gk_SegmentTree& tree, const gkVector<2>& point, double slack)
+        : outline_(outline), tree_(tree), point_(point), slack_(slack),
+          step_(kPi / static_cast<double>(outline.vertexCount())),
+          narrowSine2_(squared(gk_Trig::sinCos(step_).sin - kSineRoom)) {}
 
-    void add(std::size_t vertex) {
-        const double angle = nearlyDirectionOf(outline_.vertex(vertex) - point_);
-        if (!(angle >= begin_ && angle <= end_)) return;
-        const auto place = static_cast<std::size_t>((angle - begin_) / step_ * 2.0);
-        Column& column = columns_[std::min(place, columns_.size() - 1)];
-        column.least = std::min(column.least, angle);
-        column.greatest = std::max(column.greatest, angle);
-        seen_.push_back({angle, vertex});
-    }
-
-    std::optional<gkVector<2>> firstWide() const {
-        double from = kNone;
-        for (const Column& column : columns_) {
-            if (column.least == kNone) continue;
-            if (from != kNone && column.least - from > step_ - 2.0 * kAngleRoom) {
-                const double lower = exactly(from).greatest;
-                const double gap = gapBetween(lower, exactly(column.least).least);
-                if (gap > step_) return middleOf(lower, gap);
+    // None where all directions had better be looked at.
+    std::optional<gkVector<2>> throughFirstWideGap() const {
+        double begin = 0.0;
+        for (double gaps = kFirstGaps; begin + gaps * step_ < kMostTurn; gaps *= kGapGrowth) {
+            const gk_DirectionColumns found = columns({begin, begin + gaps * step_});
+            if (const std::optional<gkVector<2>> middle = throughFirstWide(found)) return middle;
+            if (found.isEmpty()) {
+                const std::optional<double> next = directionAfter(-1.0, begin);
+                if (!next) break;
+                begin = std::max(0.0, turnOfAngle(*next) - kTurnRoom);
+                gaps = kFirstGaps / kGapGrowth;
+                continue;
             }
-            from = column.greatest;
+            const Turns turns = found.last();
+            const bool endsInEmptyHalf = turns.end < begin + gaps * step_ / 2.0;
+            begin = std::max(0.0, turns.begin - kTurnRoom);
+            if (!endsInEmptyHalf) continue;
+            const double last = directions(turns).back();
+            const std::optional<double> next = directionAfter(last, begin);
+            if (!next) break;
+            return middleOf(last, gapBetween(last, *next));
         }
         return std::nullopt;
     }
 
-    bool isEmpty() const { return seen_.empty(); }
-    // The last direction, and whether there is none in the second half, so that the gap behind it is wide,
-    // whatever comes next.
-    double last() const { return exactly(greatest()).greatest; }
-    bool endsInEmptyHalf() const { return greatest() < begin_ + (end_ - begin_) / 2.0; }
-    // Where to look on when no gap was wide: before the last direction.
-    double resume() const { return isEmpty() ? begin_ : std::max(0.0, greatest() - 4.0 * kAngleRoom); }
-
 private:
-    static constexpr double kNone = 1e300;
-    struct Column {
-        double least;
-        double greatest;
-    };
-    struct Seen {
-        double angle;
-        std::size_t vertex;
-    };
-
-    // Of directions of which there is one.
-    double greatest() const {
-        const auto isUsed = [](const Column& column) { return column.least != kNone; };
-        return std::find_if(columns_.rbegin(), columns_.rend(), isUsed)->greatest;
+    // Calls visit(offset, turn) for all vertices whose turn is between two, and for some others.
+    template <class Visit> void visitOffsets(const Turns& turns, Visit visit) const {
+        const Sector sector(point_, turns, slack_);
+        tree_.any([&](const gk_Box& box) { return sector.mayHold(box); },
+                  [&](std::size_t run) {
+                      const gk_SegmentTree::Range range = tree_.verticesOf(run);
+                      for (std::size_t i = range.begin; i < range.end; ++i) {
+                          const gkVector<2> offset = outline_.vertex(i) - point_;
+                          if (sector.mayHold(offset)) visit(offset, turnOf(offset));
+                      }
+                      return false;
+                  });
     }
 
-    // The directions of those that are nearly known as `angle`.
-    Column exactly(double angle) const {
-        Column directions{kNone, -kNone};
-        for (const Seen& seen : seen_) {
-            if (std::fabs(seen.angle - angle) > 2.0 * kAngleRoom) continue;
-            const double direction = directionOf(outline_.vertex(seen.vertex) - point_);
-            directions.least = std::min(directions.least, direction);
-            directions.greatest = std::max(directions.greatest, direction);
-        }
-        return directions;
+    gk_DirectionColumns columns(const Turns& turns) const {
+        gk_DirectionColumns found(turns.begin, turns.end, step_);
+        visitOffsets(turns, [&](const gkVector<2>& /*offset*/, double turn) { found.add(turn); });
+        return found;
+    }
+
+    // The least of all vertex directions above `after`, none of which has a turn below `least`; none when there
+    // is none.
+    std::optional<double> directionAfter(double after, double least) const {
+        std::optional<double> next;
+        double nextTurn = 5.0;
+        const gkVector<2> before = gk_DirectionAt(least);
+        const auto nearness = [&](const gk_Box& box) {
+            // What is before the x direction may be wanted, nothing else of what is before `least`.
+            const gkVector<2> corner(box.x0 - point_.x(), box.y1 - point_.y());
+            const bool isBefore =
+                least > 0.0 && least < 1.0 && corner.x() > 0.0 && gk_VectorOps::cross(before, corner) < 0.0;
+            return isBefore ? 3.0 : leastTurn(point_, box);
+        };
+        tree_.nearestFirst(
+            nearness, [&] { return nextTurn + kTurnRoom; },
+            [&](std::size_t run) {
+                const gk_SegmentTree::Range range = tree_.verticesOf(run);
+                for (std::size_t i = range.begin; i < range.end; ++i) {
+                    const gkVector<2> offset = outline_.vertex(i) - point_;
+                    const double turn = turnOf(offset);
+                    if (turn < least || turn > nextTurn + kTurnRoom) continue;
+                    const double angle = directionOf(offset);
+                    if (!(angle > after)) continue;
+                    nextTurn = std::min(nextTurn, turn);
+                    if (!next || angle < *next) next = angle;
+                }
+            });
+        return next;
+    }
+
+    // In order, and so many more that none between two of them is left out.
+    std::vector<double> directions(const Turns& turns) const {
+        const Turns around{turns.begin - kTurnRoom, turns.end + kTurnRoom};
+        std::vector<double> angles;
+        visitOffsets(around, [&](const gkVector<2>& offset, double turn) {
+            if (turn >= around.begin && turn <= around.end) angles.push_back(directionOf(offset));
+        });
+        std::sort(angles.begin(), angles.end());
+        return angles;
+    }
+
+    // Of no more than three quarters.
+    bool isNarrow(const Turns& turns) const {
+        const gkVector<2> from = gk_DirectionAt(turns.begin);
+        const gkVector<2> to = gk_DirectionAt(turns.end);
+        const double cross = gk_VectorOps::cross(from, to);
+        return gk_VectorOps::dot(from, to) > 0.0 &&
+               cross * cross <= narrowSine2_ * gk_VectorOps::dot(from, from) * gk_VectorOps::dot(to, to);
+    }
+
+    std::optional<gkVector<2>> throughFirstWide(const gk_DirectionColumns& found) const {
+        std::optional<gkVector<2>> middle;
+        found.anyGap([&](const Turns& turns) {
+            if (isNarrow(turns)) return false;
+            const std::vector<double> angles = directions(turns);
+            const auto wide = std::adjacent_find(angles.begin(), angles.end(), [&](double from, double to) {
+                return gapBetween(from, to) > step_;
+            });
+            if (wide != angles.end()) middle = middleOf(*wide, gapBetween(*wide, *std::next(wide)));
+            return middle.has_value();
+        });
+        return middle;
     }
 
     const gk_Segments& outline_;
+    const gk_SegmentTree& tree_;
     gkVector<2> point_;
+    double slack_;
     double step_;
-    double begin_;
-    double end_;
-    std::vector<Column> columns_;
-    std::vector<Seen> seen_;
+    double narrowSine2_; // the square of a sine
 };
 
 } // namespace
@@ -237,37 +248,12 @@ std::optional<gkVector<2>> gk_RayDirection(const gk_Segments& outline, const gkV
     return throughFirstWideGap(angles);
 }
 
-// The gaps are walked from angle 0 upwards, so the first wide one is known as soon as all directions up to it
-// are: those up to some gaps, then those of more gaps from the last one on. Where none comes for long the next
-// one is looked for by itself.
 std::optional<gkVector<2>> gk_RayDirection(const gk_Segments& outline, const gk_SegmentTree& tree,
                                            const gkVector<2>& point) {
     const double slack = gk_DistanceSlack(std::max(tree.reach(), gk_Reach(point)));
     if (isOnVertex(outline, tree, point, slack)) return std::nullopt;
-    const View view(point, slack);
-    const double step = kPi / static_cast<double>(outline.vertexCount());
-    double begin = 0.0;
-    for (double gaps = kFirstGaps; begin + gaps * step < kMostTurn; gaps *= kGapGrowth) {
-        Gaps found(outline, point, step, begin, gaps);
-        const Sector sector(view, point, begin, begin + gaps * step, slack);
-        tree.any([&](const gk_Box& box) { return sector.mayHold(box); },
-                 [&](std::size_t run) {
-                     const gk_SegmentTree::Range range = tree.verticesOf(run);
-                     for (std::size_t i = range.begin; i < range.end; ++i)
-                         if (sector.mayHold(outline.vertex(i))) found.add(i);
-                     return false;
-                 });
-        if (const std::optional<gkVector<2>> direction = found.firstWide()) return direction;
-        begin = found.resume();
-        if (!found.isEmpty() && !found.endsInEmptyHalf()) continue;
-        const double last = found.isEmpty() ? -1.0 : found.last();
-        const std::optional<double> next = nextDirection(outline, tree, point, view, last);
-        if (!next) break;
-        if (!found.isEmpty()) return middleOf(last, gapBetween(last, *next));
-        begin = std::max(0.0, *next - 4.0 * kAngleRoom);
-        gaps = kFirstGaps / kGapGrowth;
-    }
-    return gk_RayDirection(outline, point);
+    const std::optional<gkVector<2>> direction = GapSearch(outline, tree, point, slack).throughFirstWideGap();
+    return direction ? direction : gk_RayDirection(outline, point);
 }
 
 long gk_InsideCount(const std::optional<gkVector<2>>& direction, const gkVector<2>& point, double rayLength,

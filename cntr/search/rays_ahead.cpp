@@ -16,13 +16,15 @@ constexpr std::size_t kFewestAhead = 4;
 constexpr std::size_t kMostAhead = 32;
 // More runs take as long as the ray's own way down the tree.
 constexpr std::size_t kMostRuns = 64;
+constexpr std::size_t kMostVisited = 4 * kMostRuns;
 constexpr double kMostTurn = 1.75; // quarters: two directions are less than half a turn apart
+// Only from here may a vertex be so near the x direction as kTinyOffset.
+constexpr double kTinyPlace = 1e-280;
 constexpr std::size_t kNeighbours = 8;
 
-// The direction after some quarter turns, at most 2.
-gkVector<2> directionAt(double quarterTurns) {
-    return quarterTurns <= 1.0 ? gkVector<2>(1.0 - quarterTurns, quarterTurns)
-                               : gkVector<2>(1.0 - quarterTurns, 2.0 - quarterTurns);
+// Not above the turn of anything in the box, seen from any of the places.
+double leastTurn(const gk_Box& box, const gk_Box& places) {
+    return gk_LeastTurn({box.x0 - places.x1, box.y0 - places.y1, box.x1 - places.x0, box.y1 - places.y0});
 }
 
 // Of directions less than half a turn apart.
@@ -36,18 +38,31 @@ bool isAhead(const gkVector<2>& offset, const gkVector<2>& last) {
     return (y >= 0.0) & ((y > 0.0) | (x > 0.0)) & (side > 0.0);
 }
 
+double squared(double number) { return number * number; }
+
+double sineOfStep(std::size_t vertexCount) { return std::sin(kPi / static_cast<double>(vertexCount)); }
+
+// Between directions less than half a turn apart.
 class Gap {
 public:
     Gap(const gkVector<2>& from, const gkVector<2>& to)
-        : from_(from / gk_VectorOps::length(from)), to_(to / gk_VectorOps::length(to)) {}
+        : from_(from), to_(to), dot_(gk_VectorOps::dot(from, to)),
+          cross2_(squared(gk_VectorOps::cross(from, to))),
+          lengths2_(gk_VectorOps::dot(from, from) * gk_VectorOps::dot(to, to)) {}
 
-    // 1 from a right angle on.
-    double sine() const { return gk_VectorOps::dot(from_, to_) > 0.0 ? gk_VectorOps::cross(from_, to_) : 1.0; }
-    gkVector<2> middle() const { return (from_ + to_) / gk_VectorOps::length(from_ + to_); }
+    // Than an angle, below a right one, by the square of its sine.
+    bool isWider(double sine2) const { return dot_ <= 0.0 || cross2_ > sine2 * lengths2_; }
+    gkVector<2> middle() const {
+        const gkVector<2> sum = from_ / gk_VectorOps::length(from_) + to_ / gk_VectorOps::length(to_);
+        return sum / gk_VectorOps::length(sum);
+    }
 
 private:
     gkVector<2> from_;
     gkVector<2> to_;
+    double dot_;
+    double cross2_;
+    double lengths2_;
 };
 
 // A ray whose direction, of length 1, is nearly known.
@@ -113,31 +128,38 @@ std::optional<gk_RaysAhead> gk_RaysAhead::of(const gk_Segments& outline,
 gk_RaysAhead::gk_RaysAhead(std::shared_ptr<const gk_SegmentTree> tree, const gk_InsideCertificate& certificate,
                            double rayLength, std::size_t vertexCount)
     : tree_(std::move(tree)), certificate_(certificate), rayLength_(rayLength),
-      wideSine_(std::sin(kPi / static_cast<double>(vertexCount))),
+      wideSine2_(squared(sineOfStep(vertexCount) + kSineRoom)),
+      narrowSine2_(squared(sineOfStep(vertexCount) - kSineRoom)),
       room_(1.1 * certificate.margins().segment + 8.0 * kAngleRoom * rayLength), runsAhead_(kFewestAhead) {}
 
 // The runs with the least turns: all that reach the x direction, and some more.
-void gk_RaysAhead::gatherRuns(const gk_Segments& outline, const gk_Box& places) {
-    const double slack = gk_DistanceSlack(
-        std::max({tree_->reach(), gk_Reach({places.x0, places.y0}), gk_Reach({places.x1, places.y1})}));
-    const auto leastTurn = [&](const gk_Box& box) {
-        return gk_LeastTurn({box.x0 - places.x1, box.y0 - places.y1, box.x1 - places.x0, box.y1 - places.y0},
-                            slack);
-    };
+bool gk_RaysAhead::gatherRuns(const gk_Segments& outline, const gk_Box& places) {
     std::vector<double> least;
     lastTurn_ = kMostTurn;
     runs_.clear();
-    tree_->nearestFirst(
-        leastTurn, [&] { return runs_.size() > kMostRuns ? -1.0 : lastTurn_; },
-        [&](std::size_t run) {
-            const double turn = leastTurn(gk_RunBox(outline, tree_->segmentsOf(run)));
-            if (turn > lastTurn_) return;
-            runs_.emplace_back(turn, run);
-            if (turn <= 0.0) return;
-            least.insert(std::upper_bound(least.begin(), least.end(), turn), turn);
-            if (least.size() > runsAhead_) least.pop_back();
-            if (least.size() == runsAhead_) lastTurn_ = least.back();
-        });
+    std::size_t visited = 0;
+    const auto isTooMuch = [&] { return runs_.size() > kMostRuns || visited > kMostVisited; };
+    tree_->nearestFirst([&](const gk_Box& box) { return leastTurn(box, places); },
+                        [&] { return isTooMuch() ? -1.0 : lastTurn_; },
+                        [&](std::size_t run) {
+                            ++visited;
+                            const double turn = leastTurn(gk_RunBox(outline, tree_->segmentsOf(run)), places);
+                            if (turn > lastTurn_) return;
+                            runs_.emplace_back(turn, run);
+                            if (turn <= 0.0) return;
+                            least.insert(std::upper_bound(least.begin(), least.end(), turn), turn);
+                            if (least.size() > runsAhead_) least.pop_back();
+                            if (least.size() == runsAhead_) lastTurn_ = least.back();
+                            if (runs_.size() > kMostRuns) forgetRunsBehind();
+                        });
+    forgetRunsBehind();
+    return !isTooMuch();
+}
+
+void gk_RaysAhead::forgetRunsBehind() {
+    runs_.erase(
+        std::remove_if(runs_.begin(), runs_.end(), [&](const auto& run) { return run.first > lastTurn_; }),
+        runs_.end());
 }
 
 void gk_RaysAhead::gather(const gk_Segments& outline, const gk_Box& places) {
@@ -147,14 +169,15 @@ void gk_RaysAhead::gather(const gk_Segments& outline, const gk_Box& places) {
         runsAhead_ = std::max(runsAhead_ - 1, kFewestAhead);
     unknown_ = 0;
     places_.reset();
-    gatherRuns(outline, places);
-    if (runs_.size() > kMostRuns) return;
+    if (!gatherRuns(outline, places)) return;
     places_ = places;
     vertices_.clear();
     for (const auto& [turn, run] : runs_) {
-        if (turn > lastTurn_) continue;
         const gk_SegmentTree::Range range = tree_->verticesOf(run);
-        for (std::size_t i = range.begin; i < range.end; ++i) vertices_.push_back(outline.vertex(i));
+        for (std::size_t i = range.begin; i < range.end; ++i) {
+            const gkVector<2>& vertex = outline.vertex(i);
+            if (leastTurn(gk_Box::of(vertex, vertex), places) <= lastTurn_) vertices_.push_back(vertex);
+        }
     }
     ahead_.resize(vertices_.size() + 1);
 }
@@ -162,7 +185,7 @@ void gk_RaysAhead::gather(const gk_Segments& outline, const gk_Box& places) {
 // None where it is not certain which gap that is. Most often it is the one between the first two, which need no
 // order of all.
 std::optional<gkVector<2>> gk_RaysAhead::throughFirstWideGap(const gkVector<2>& place) {
-    const gkVector<2> last = directionAt(lastTurn_);
+    const gkVector<2> last = gk_DirectionAt(lastTurn_);
     const auto begin = ahead_.begin();
     auto end = begin;
     for (const gkVector<2>& vertex : vertices_) {
@@ -178,20 +201,21 @@ std::optional<gkVector<2>> gk_RaysAhead::throughFirstWideGap(const gkVector<2>& 
         if (isBefore(next, least)) std::swap(least, next);
     }
     const Gap first(least, next);
-    if (first.sine() > wideSine_ + kSineRoom) return first.middle();
+    if (first.isWider(wideSine2_)) return first.middle();
     for (auto i = begin; i != end; ++i) i->turn = gk_QuarterTurns(i->offset.x(), i->offset.y());
     std::make_heap(begin, end);
     while (end - begin > 1) {
         std::pop_heap(begin, end--);
         const Gap gap(end->offset, begin->offset);
-        if (gap.sine() > wideSine_ + kSineRoom) return gap.middle();
-        if (gap.sine() > wideSine_ - kSineRoom) break;
+        if (gap.isWider(wideSine2_)) return gap.middle();
+        if (gap.isWider(narrowSine2_)) break;
     }
     return std::nullopt;
 }
 
 bool gk_RaysAhead::bothMeet(const gk_Segments& outline, const gkVector<2>& place, gk_RaysMet& met) {
     if (!places_ || !places_->holds(place) || !certificate_.allowsRaysFrom(place)) return false;
+    if (std::fabs(place.y()) < kTinyPlace) return false;
     const std::optional<gkVector<2>> direction = throughFirstWideGap(place);
     if (!direction) {
         ++unknown_;

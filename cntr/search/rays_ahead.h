@@ -47,7 +47,8 @@ private:
     gk_RaysAhead(std::shared_ptr<const gk_SegmentTree> tree, const gk_InsideCertificate& certificate,
                  double rayLength, std::size_t vertexCount);
 
-    void gatherRuns(const gk_Segments& outline, const gk_Box& places);
+    bool gatherRuns(const gk_Segments& outline, const gk_Box& places);
+    void forgetRunsBehind();
     std::optional<gkVector<2>> throughFirstWideGap(const gkVector<2>& place);
 
     struct Ahead {
@@ -59,7 +60,8 @@ private:
     std::shared_ptr<const gk_SegmentTree> tree_;
     gk_InsideCertificate certificate_;
     double rayLength_;
-    double wideSine_; // of the angle above which a gap is wide
+    double wideSine2_;   // a gap of a greater sine, squared, is wide
+    double narrowSine2_; // one of none greater is not
     double room_;
     std::size_t runsAhead_;
     std::size_t unknown_ = 0; // places whose first wide gap was not among those gathered

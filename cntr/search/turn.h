@@ -4,8 +4,6 @@
 
 #include "cntr/search/box.h"
 
-#include <algorithm>
-
 // Quarters of a turn from the x direction, counter-clockwise, in [0, 4): whole on the axes and monotone between
 // them, but not even. NaN for (0, 0).
 inline double gk_QuarterTurns(double x, double y) {
@@ -13,14 +11,25 @@ inline double gk_QuarterTurns(double x, double y) {
     return x < 0.0 ? 2.0 + y / (x + y) : 3.0 + x / (x - y);
 }
 
+// A vector that has this turn, at most 4.
+inline gkVector<2> gk_DirectionAt(double quarterTurns) {
+    if (quarterTurns <= 2.0)
+        return {1.0 - quarterTurns, quarterTurns <= 1.0 ? quarterTurns : 2.0 - quarterTurns};
+    return {quarterTurns - 3.0, quarterTurns <= 3.0 ? 2.0 - quarterTurns : quarterTurns - 4.0};
+}
+
 constexpr double kRoundedTurn = 1e-12; // thousands of the roundings of a turn
 
-// Not above the turn of any offset in the box, each coordinate of which may be off by the slack.
-inline double gk_LeastTurn(const gk_Box& offsets, double slack) {
-    if (offsets.x1 >= -slack && offsets.y0 <= slack && offsets.y1 >= -slack) return 0.0;
-    return std::min({gk_QuarterTurns(offsets.x0, offsets.y0), gk_QuarterTurns(offsets.x0, offsets.y1),
-                     gk_QuarterTurns(offsets.x1, offsets.y0), gk_QuarterTurns(offsets.x1, offsets.y1)}) -
-           kRoundedTurn;
+// An offset so little below the x direction may be computed to lie in it.
+constexpr double kTinyOffset = 1e-300;
+
+// Not above the turn of any offset in the box, which is that of one of its corners. Differences keep the order
+// of what they are made from, so a box made of differences holds the offsets as they are computed.
+inline double gk_LeastTurn(const gk_Box& offsets) {
+    const auto [x0, y0, x1, y1] = offsets;
+    if (y0 > 0.0) return gk_QuarterTurns(x1, x1 >= 0.0 ? y0 : y1) - kRoundedTurn;
+    if (y1 < -kTinyOffset) return gk_QuarterTurns(x0, x0 < 0.0 ? y1 : y0) - kRoundedTurn;
+    return x1 >= 0.0 ? 0.0 : gk_QuarterTurns(x1, y1) - kRoundedTurn;
 }
 
 #endif

@@ -37,6 +37,30 @@ struct Counts {
     }
 };
 
+// What cells know of an outline, and the certificate of its rays. The vertices must outlive it.
+class ByCells {
+public:
+    static std::optional<ByCells> of(const Points& points) {
+        const gk_Segments outline(points, true);
+        const std::optional<gk_CellGrid> grid = gk_CellGrid::of(outline);
+        if (!grid) return std::nullopt;
+        return ByCells(points, outline, *grid);
+    }
+
+    bool allowRaysFrom(const gkVector<2>& p) const { return certificate_.allowsRaysFrom(p); }
+    gk_Inside inside(const gkVector<2>& p) const { return gk_InsideByCells(outline_, cells_, certificate_, p); }
+
+private:
+    ByCells(const Points& points, const gk_Segments& outline, const gk_CellGrid& grid)
+        : outline_(outline),
+          certificate_(points.size(), points.front(), 2.0 * gk_CircleAroundFirst(points).radius(), grid.box()),
+          cells_(gk_SegmentCells(grid, outline).withParity(outline)) {}
+
+    gk_Segments outline_;
+    gk_InsideCertificate certificate_;
+    gk_SegmentCells cells_;
+};
+
 bool isInside(gk_Inside answer) { return answer == gk_Inside::eInside; }
 
 } // namespace
@@ -97,15 +121,11 @@ TEST(InsideSearch, WhatCellsKnowIsThePlainAnswer) {
     Counts counts;
     search::each(12, [&](const Points& points, std::uint64_t seed) {
         if (points.size() < 2) return;
-        const gk_Segments outline(points, true);
-        const auto grid = gk_CellGrid::of(outline);
-        if (!grid) return;
-        const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
-        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, grid->box());
-        const gk_SegmentCells cells = gk_SegmentCells(*grid, outline).withParity(outline);
+        const std::optional<ByCells> cells = ByCells::of(points);
+        if (!cells) return;
         for (const gkVector<2>& p : probes(points, seed)) {
-            if (!gk_IsModerate(p) || !certificate.allowsRaysFrom(p)) continue;
-            const gk_Inside known = gk_InsideByCells(outline, cells, certificate, p);
+            if (!gk_IsModerate(p) || !cells->allowRaysFrom(p)) continue;
+            const gk_Inside known = cells->inside(p);
             counts.add(known);
             if (known == gk_Inside::eUnknown) continue;
             ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(known)) << p;
@@ -127,14 +147,10 @@ TEST(InsideSearch, FlatOutlinesHaveNoCells) {
 TEST(InsideSearch, CellsThatListTooManySegmentsKnowNothing) {
     Points points = {{100, 0}, {100, 100}, {0, 100}};
     for (int i = 0; i < 3000; ++i) points.emplace_back(0.2 * (i % 2), 0.5 - 0.5 * i / 3000.0);
-    const gk_Segments outline(points, true);
-    const auto grid = gk_CellGrid::of(outline);
-    ASSERT_TRUE(grid);
-    const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
-    const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, grid->box());
-    const gk_SegmentCells cells = gk_SegmentCells(*grid, outline).withParity(outline);
-    EXPECT_EQ(gk_Inside::eUnknown, gk_InsideByCells(outline, cells, certificate, {0.3, 0.3}));
-    EXPECT_EQ(gk_Inside::eInside, gk_InsideByCells(outline, cells, certificate, {50, 50}));
+    const std::optional<ByCells> cells = ByCells::of(points);
+    ASSERT_TRUE(cells);
+    EXPECT_EQ(gk_Inside::eUnknown, cells->inside({0.3, 0.3}));
+    EXPECT_EQ(gk_Inside::eInside, cells->inside({50, 50}));
 }
 
 TEST(InsideSearch, TreeSendsTheRayWhereThePlainScanDoes) {
@@ -181,6 +197,34 @@ TEST(InsideSearch, TreeFindsAGapThatIsWideByAHair) {
             EXPECT_EQ(answer([&] { return *gk_RayDirection(outline, point); }), answer([&] { return *fast; }));
         }
     }
+}
+
+// A vertex so little below the x direction that its own direction is computed as zero comes first of all.
+TEST(InsideSearch, TreeBeginsWithADirectionThatRoundsToZero) {
+    constexpr std::size_t kCount = 200;
+    constexpr double kFirst = 0.02;
+    constexpr double kStep = 0.031; // both wider than pi / 200
+    Points points = {{50, 0}};
+    for (std::size_t i = 1; i < kCount; ++i) {
+        const double angle = kFirst + kStep * static_cast<double>(i - 1);
+        points.emplace_back(50.0 * std::cos(angle), 50.0 * std::sin(angle));
+    }
+    const gk_Segments outline(points, true);
+    const auto tree = gk_SegmentTree::of(outline);
+    ASSERT_TRUE(tree);
+    const auto rayFrom = [&](double y) {
+        const auto fast = gk_RayDirection(outline, *tree, {0, y});
+        EXPECT_EQ(answer([&] {
+                      return gk_RayDirection(outline, {0, y}).value();
+                  }),
+                  answer([&] { return fast.value(); }))
+            << y;
+        return fast ? std::atan2(fast->y(), fast->x()) : 0.0;
+    };
+    EXPECT_NEAR(kFirst / 2.0, rayFrom(0.0), 1e-12);
+    EXPECT_NEAR(kFirst / 2.0, rayFrom(std::numeric_limits<double>::denorm_min()), 1e-12);
+    EXPECT_NEAR(kFirst + kStep / 2.0, rayFrom(1e-310), 1e-12);
+    EXPECT_NEAR(kFirst + kStep / 2.0, rayFrom(1e-290), 1e-12);
 }
 
 // The first gap that seems wide is narrower than a wide one by less than the room that is given to angles.
@@ -244,21 +288,15 @@ TEST(InsideSearch, WhatCellsKnowOfAWideCombIsThePlainAnswer) {
         }
         points.emplace_back(width, -1.0);
         points.emplace_back(0.0, -1.0);
-        const gk_Segments outline(points, true);
-        const auto grid = gk_CellGrid::of(outline);
-        ASSERT_TRUE(grid);
-        const double rayLength = 2.0 * gk_CircleAroundFirst(points).radius();
-        const gk_InsideCertificate certificate(points.size(), points.front(), rayLength, grid->box());
-        const gk_SegmentCells cells = gk_SegmentCells(*grid, outline).withParity(outline);
+        const std::optional<ByCells> cells = ByCells::of(points);
+        ASSERT_TRUE(cells);
         int known = 0;
         for (int i = 0; i < 300; ++i) {
             // Half of them some touches beside a tooth.
             const double beside = (random.unit() - 0.5) * std::pow(10.0, random.between(-6.0, -3.0));
             const double tooth = std::floor(random.between(0.0, kTeeth)) * pitch + pitch / 2.0 + beside;
             const gkVector<2> p(i % 2 == 0 ? tooth : random.between(0.0, width), random.between(0.0, width));
-            const gk_Inside inside = certificate.allowsRaysFrom(p)
-                                         ? gk_InsideByCells(outline, cells, certificate, p)
-                                         : gk_Inside::eUnknown;
+            const gk_Inside inside = cells->allowRaysFrom(p) ? cells->inside(p) : gk_Inside::eUnknown;
             if (inside == gk_Inside::eUnknown) continue;
             ++known;
             ASSERT_EQ(oracle::insideCount(points, p, false) % 2 == 1, isInside(inside)) << p;

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -124,4 +125,19 @@ TEST(RaysAhead, ProvesNothingOfARayAlongAnEdge) {
             EXPECT_NE(0, oracle::insideCount(points, p, true)) << p;
         }
     }
+}
+
+// Seen from just above the x axis a vertex on it lies in a direction below zero that is computed as zero: it
+// is the first of all there, not the last.
+TEST(RaysAhead, ProvesNothingOfAVertexBelowTheXDirectionByLessThanAnAngleCanBe) {
+    const Points points = {{9, 0}, {9, 2}, {8, 8}, {-8, 8}, {-9, -2}, {-8, -8}, {8, -8}};
+    const gk_Segments outline(points, true);
+    std::optional<gk_RaysAhead> rays = raysOf(points);
+    ASSERT_TRUE(rays);
+    gk_RaysMet met;
+    for (const double y : {std::numeric_limits<double>::denorm_min(), 1e-310, 1e-290}) {
+        rays->gather(outline, gk_Box{-1, -1, 1, 1});
+        EXPECT_FALSE(rays->bothMeet(outline, {0, y}, met)) << y;
+    }
+    EXPECT_TRUE(rays->bothMeet(outline, {0, 0.5}, met));
 }
