@@ -14,8 +14,9 @@ constexpr double kPi = 3.141592653589793;
 constexpr double kOnVertex = 1e-6; // vertex units
 constexpr double kFirstGaps = 8.0; // of pi / n: some four vertices where they are evenly spread
 constexpr double kGapGrowth = 3.0;
-constexpr double kMostTurn = 2.5;   // quarters; looking at all directions costs no more than at most of them
-constexpr double kSineRoom = 4e-11; // ten times the room of a turn
+constexpr double kMostTurn = 2.5;    // quarters; looking at all directions costs no more than at most of them
+constexpr std::size_t kFewRuns = 64; // looked through again as quickly as found again
+constexpr double kSineRoom = 4e-11;  // ten times the room of a turn
 
 bool isOn(const gkVector<2>& offset) { return !(gk_VectorOps::length(offset) > kOnVertex); }
 
@@ -79,6 +80,13 @@ public:
           least_(isNarrow_ ? std::max(slopeAt(turns.begin - kRoundedTurn), 0.0) : 0.0),
           greatest_(isNarrow_ ? slopeAt(turns.end + kRoundedTurn) : turns.end + kRoundedTurn) {}
 
+    // Around them all, where they are in a box.
+    gk_Box around(const gk_Box& box) const {
+        if (!isNarrow_) return box;
+        const double across = std::max(box.x1 - point_.x(), 0.0);
+        return {point_.x() - slack_, point_.y() - slack_, box.x1,
+                point_.y() + greatest_ * across + 2.0 * slack_};
+    }
     // False only when no vertex in the box is one of these.
     bool mayHold(const gk_Box& box) const {
         if (!isNarrow_) return leastTurn(point_, box) <= greatest_;
@@ -118,7 +126,7 @@ public:
           narrowSine2_(squared(gk_Trig::sinCos(step_).sin - kSineRoom)) {}
 
     // None where all directions had better be looked at.
-    std::optional<gkVector<2>> throughFirstWideGap() const {
+    std::optional<gkVector<2>> throughFirstWideGap() {
         double begin = 0.0;
         for (double gaps = kFirstGaps; begin + gaps * step_ < kMostTurn; gaps *= kGapGrowth) {
             const gk_DirectionColumns found = columns({begin, begin + gaps * step_});
@@ -143,23 +151,35 @@ public:
     }
 
 private:
-    // Calls visit(offset, turn) for all vertices whose turn is between two, and for some others.
-    template <class Visit> void visitOffsets(const Turns& turns, Visit visit) const {
-        const Sector sector(point_, turns, slack_);
-        tree_.any([&](const gk_Box& box) { return sector.mayHold(box); },
-                  [&](std::size_t run) {
-                      const gk_SegmentTree::Range range = tree_.verticesOf(run);
-                      for (std::size_t i = range.begin; i < range.end; ++i) {
-                          const gkVector<2> offset = outline_.vertex(i) - point_;
-                          if (sector.mayHold(offset)) visit(offset, turnOf(offset));
-                      }
-                      return false;
-                  });
+    // Calls visit(offset, turn) for all vertices of a run that the sector holds, and for some others.
+    template <class Visit> void visitOffsets(std::size_t run, const Sector& sector, Visit visit) const {
+        const gk_SegmentTree::Range range = tree_.verticesOf(run);
+        for (std::size_t i = range.begin; i < range.end; ++i) {
+            const gkVector<2> offset = outline_.vertex(i) - point_;
+            if (sector.mayHold(offset)) visit(offset, turnOf(offset));
+        }
     }
 
-    gk_DirectionColumns columns(const Turns& turns) const {
+    template <class Visit> void visitRuns(const Sector& sector, Visit visit) const {
+        tree_.anyOverlapping(
+            sector.around(tree_.box()), [&](const gk_Box& box) { return sector.mayHold(box); },
+            [&](std::size_t run) {
+                visit(run);
+                return false;
+            });
+    }
+
+    // So much that no direction beyond comes between those within.
+    static Turns widened(const Turns& turns) { return {turns.begin - kTurnRoom, turns.end + kTurnRoom}; }
+
+    gk_DirectionColumns columns(const Turns& turns) {
         gk_DirectionColumns found(turns.begin, turns.end, step_);
-        visitOffsets(turns, [&](const gkVector<2>& /*offset*/, double turn) { found.add(turn); });
+        runs_.clear();
+        const Sector sector(point_, widened(turns), slack_);
+        visitRuns(sector, [&](std::size_t run) {
+            if (runs_.size() < kFewRuns) runs_.push_back(run);
+            visitOffsets(run, sector, [&](const gkVector<2>& /*offset*/, double turn) { found.add(turn); });
+        });
         return found;
     }
 
@@ -193,13 +213,19 @@ private:
         return next;
     }
 
-    // In order, and so many more that none between two of them is left out.
+    // Those in the columns found last, in order.
     std::vector<double> directions(const Turns& turns) const {
-        const Turns around{turns.begin - kTurnRoom, turns.end + kTurnRoom};
+        const Turns around = widened(turns);
+        const Sector sector(point_, around, slack_);
         std::vector<double> angles;
-        visitOffsets(around, [&](const gkVector<2>& offset, double turn) {
+        const auto take = [&](const gkVector<2>& offset, double turn) {
             if (turn >= around.begin && turn <= around.end) angles.push_back(directionOf(offset));
-        });
+        };
+        if (runs_.size() < kFewRuns) {
+            for (const std::size_t run : runs_) visitOffsets(run, sector, take);
+        } else {
+            visitRuns(sector, [&](std::size_t run) { visitOffsets(run, sector, take); });
+        }
         std::sort(angles.begin(), angles.end());
         return angles;
     }
@@ -232,7 +258,8 @@ private:
     gkVector<2> point_;
     double slack_;
     double step_;
-    double narrowSine2_; // the square of a sine
+    double narrowSine2_;            // the square of a sine
+    std::vector<std::size_t> runs_; // with the vertices of the columns found last, where they are few
 };
 
 } // namespace
