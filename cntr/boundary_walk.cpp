@@ -49,7 +49,7 @@ struct WalkState {
 };
 
 // The state stands on segment `position`, at one end or where it was crossed.
-WalkState stepped(gk_Outline& outline, const WalkState& state) {
+void step(gk_Outline& outline, WalkState& state) {
     const long n = outline.size();
     const long before = gk_WrapOnce(state.position - 1, n);
     const gkVector<2>& target = outline[state.forward ? state.position : before];
@@ -57,9 +57,13 @@ WalkState stepped(gk_Outline& outline, const WalkState& state) {
     if (!isWhole || !outline.isUncrossed(state.position)) {
         const std::optional<gk_Crossing> met =
             outline.firstCrossingBeside(state.position, gkLineSeg(state.point, target), false);
-        if (met) return {met->point, met->segment, !state.forward};
+        if (met) {
+            state = {met->point, met->segment, !state.forward};
+            return;
+        }
     }
-    return {target, gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n), state.forward};
+    state.point = target;
+    state.position = gk_WrapOnce(state.forward ? state.position + 1 : state.position - 1, n);
 }
 
 // Brent's method: a state met again proves a loop. The state to compare with is replaced after 1, 2, 4, ...
@@ -110,7 +114,7 @@ std::vector<gkVector<2>> gk_WalkBoundary(gk_Outline& outline, long start) {
     LoopDetector loop(state);
     std::vector<gkVector<2>> walked;
     do {
-        state = stepped(outline, state);
+        step(outline, state);
         // A walk that ends never stands twice in one state, so none that ends is cut short.
         if (loop.meetsAgain(state)) throw gkContourDefs::BadParams(L"invalid contour");
         walked.push_back(state.point);
