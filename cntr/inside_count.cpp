@@ -7,6 +7,7 @@
 #include "platform/core/math/vector_ops.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -14,9 +15,9 @@ constexpr double kPi = 3.141592653589793;
 constexpr double kOnVertex = 1e-6; // vertex units
 constexpr double kFirstGaps = 8.0; // of pi / n: some four vertices where they are evenly spread
 constexpr double kGapGrowth = 3.0;
-constexpr double kMostTurn = 2.5;    // quarters; looking at all directions costs no more than at most of them
-constexpr std::size_t kFewRuns = 64; // looked through again as quickly as found again
-constexpr double kSineRoom = 4e-11;  // ten times the room of a turn
+constexpr double kMostTurn = 2.5;   // quarters; looking at all directions costs no more than at most of them
+constexpr std::size_t kFew = 64;   // vertices: looked through again rather than found again
+constexpr double kSineRoom = 4e-11; // ten times the room of a turn
 
 bool isOn(const gkVector<2>& offset) { return !(gk_VectorOps::length(offset) > kOnVertex); }
 
@@ -151,20 +152,19 @@ public:
     }
 
 private:
-    // Calls visit(offset, turn) for all vertices of a run that the sector holds, and for some others.
-    template <class Visit> void visitOffsets(std::size_t run, const Sector& sector, Visit visit) const {
-        const gk_SegmentTree::Range range = tree_.verticesOf(run);
-        for (std::size_t i = range.begin; i < range.end; ++i) {
-            const gkVector<2> offset = outline_.vertex(i) - point_;
-            if (sector.mayHold(offset)) visit(offset, turnOf(offset));
-        }
-    }
-
-    template <class Visit> void visitRuns(const Sector& sector, Visit visit) const {
+    // Calls visit(offset, turn) for all vertices whose turn is between two.
+    template <class Visit> void visitBetween(const Turns& turns, Visit visit) const {
+        const Sector sector(point_, turns, slack_);
         tree_.anyOverlapping(
             sector.around(tree_.box()), [&](const gk_Box& box) { return sector.mayHold(box); },
             [&](std::size_t run) {
-                visit(run);
+                const gk_SegmentTree::Range range = tree_.verticesOf(run);
+                for (std::size_t i = range.begin; i < range.end; ++i) {
+                    const gkVector<2> offset = outline_.vertex(i) - point_;
+                    if (!sector.mayHold(offset)) continue;
+                    const double turn = turnOf(offset);
+                    if (turn >= turns.begin && turn <= turns.end) visit(offset, turn);
+                }
                 return false;
             });
     }
@@ -174,11 +174,10 @@ private:
 
     gk_DirectionColumns columns(const Turns& turns) {
         gk_DirectionColumns found(turns.begin, turns.end, step_);
-        runs_.clear();
-        const Sector sector(point_, widened(turns), slack_);
-        visitRuns(sector, [&](std::size_t run) {
-            if (runs_.size() < kFewRuns) runs_.push_back(run);
-            visitOffsets(run, sector, [&](const gkVector<2>& /*offset*/, double turn) { found.add(turn); });
+        seen_.clear();
+        visitBetween(widened(turns), [&](const gkVector<2>& offset, double turn) {
+            found.add(turn);
+            if (seen_.size() <= kFew) seen_.push_back({offset, turn});
         });
         return found;
     }
@@ -216,15 +215,13 @@ private:
     // Those in the columns found last, in order.
     std::vector<double> directions(const Turns& turns) const {
         const Turns around = widened(turns);
-        const Sector sector(point_, around, slack_);
         std::vector<double> angles;
-        const auto take = [&](const gkVector<2>& offset, double turn) {
-            if (turn >= around.begin && turn <= around.end) angles.push_back(directionOf(offset));
-        };
-        if (runs_.size() < kFewRuns) {
-            for (const std::size_t run : runs_) visitOffsets(run, sector, take);
+        if (seen_.size() > kFew) {
+            visitBetween(around,
+                         [&](const gkVector<2>& offset, double) { angles.push_back(directionOf(offset)); });
         } else {
-            visitRuns(sector, [&](std::size_t run) { visitOffsets(run, sector, take); });
+            for (const auto& [offset, turn] : seen_)
+                if (turn >= around.begin && turn <= around.end) angles.push_back(directionOf(offset));
         }
         std::sort(angles.begin(), angles.end());
         return angles;
@@ -258,8 +255,8 @@ private:
     gkVector<2> point_;
     double slack_;
     double step_;
-    double narrowSine2_;            // the square of a sine
-    std::vector<std::size_t> runs_; // with the vertices of the columns found last, where they are few
+    double narrowSine2_;                               // the square of a sine
+    std::vector<std::pair<gkVector<2>, double>> seen_; // offsets in the columns found last, where they are few
 };
 
 } // namespace
