@@ -8,6 +8,7 @@
 #include "cntr/search/inside_cells.h"
 #include "cntr/search/inside_scan.h"
 #include "cntr/search/nearest.h"
+#include "cntr/search/ray_direction.h"
 #include "platform/core/shapes/line_ops.h"
 
 #include <algorithm>

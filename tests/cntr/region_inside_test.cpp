@@ -2,6 +2,7 @@
 // gap between vertex directions, counted from the x axis, that is wider than pi / n.
 #include "cntr/inside_count.h"
 #include "cntr/outline.h"
+#include "cntr/search/ray_direction.h"
 #include "tests/support/outlines.h"
 #include "tests/support/regions.h"
 

@@ -2,6 +2,7 @@
 
 #include "cntr/inside_count.h"
 #include "cntr/measures.h"
+#include "cntr/search/ray_direction.h"
 #include "platform/core/shapes/line_ops.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 // Inside or not without a ray, and the ray's direction from a tree. Oracle: tests/oracle/inside_count.h.
-#include "cntr/inside_count.h"
 #include "cntr/measures.h"
 #include "cntr/search/inside_cells.h"
 #include "cntr/search/inside_scan.h"
 #include "cntr/search/magnitude.h"
+#include "cntr/search/ray_direction.h"
 #include "tests/cntr/search/search_shapes.h"
 #include "tests/oracle/inside_count.h"
 #include "tests/support/answer.h"
