@@ -1,16 +1,16 @@
 #!/usr/bin/env bash
-# usage: instructions.sh PROGRAM [--renew]
-# Each fixed work of tests/instructions takes as many instructions as tests/instructions/counts.txt keeps, give or take
-# 3 %; --renew writes that file. Less is a gain, which is worth keeping: renew as well. Counts belong to a compiler; with
-# another one nothing can be compared.
+# usage: instructions.sh PROGRAM COUNTS [--renew]
+# Each fixed work of tests/instructions takes as many instructions as the file COUNTS keeps, give or take 3 %; --renew
+# writes that file. Less is a gain, which is worth keeping: renew as well. Counts belong to a compiler; with another one
+# nothing can be compared.
 set -euo pipefail
 export LC_ALL=C
 program=$1
-kept=$(dirname "$0")/../../tests/instructions/counts.txt
+kept=$2
 margin=3 # per cent; counts repeat to the last instruction but for what the C library does otherwise on another machine
 
 compiler=$("$program" --compiler)
-if [ "${2:-}" != --renew ] && ! grep -qxF "compiler: $compiler" "$kept"; then
+if [ "${3:-}" != --renew ] && ! grep -qxF "compiler: $compiler" "$kept"; then
     echo "the counts are of another $(grep '^compiler:' "$kept"); this is $compiler, so nothing can be compared"
     exit 0
 fi
@@ -25,7 +25,7 @@ export -f count
 
 counted=$("$program" --list | xargs -d '\n' -P "$(nproc)" -I{} bash -c 'count "$@"' count "$program" {} | sort)
 
-if [ "${2:-}" = --renew ]; then
+if [ "${3:-}" = --renew ]; then
     printf 'compiler: %s\n%s\n' "$compiler" "$counted" >"$kept"
     echo "$(wc -l <<<"$counted") counts are kept"
     exit

@@ -177,7 +177,7 @@ private:
         seen_.clear();
         visitBetween(widened(turns), [&](const gkVector<2>& offset, double turn) {
             found.add(turn);
-            if (seen_.size() <= kFew) seen_.push_back({offset, turn});
+            if (seen_.size() <= kFew) seen_.emplace_back(offset, turn);
         });
         return found;
     }

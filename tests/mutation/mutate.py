@@ -114,25 +114,33 @@ def main():
     parser.add_argument("--seed", type=int, default=1, help="of the order in which mutants are taken")
     parser.add_argument("--workers", type=int, default=os.cpu_count() or 1, help="each has a copy of the tree")
     parser.add_argument("--rounds", default="0.1", help="the share of the random shapes that the tests try")
+    parser.add_argument("--known", action="store_true", help="try the known survivors again, and no others")
     parser.add_argument("--list", action="store_true", help="list the mutants and try none")
     options = parser.parse_args()
 
     everything = all_mutants()
+    known = survivors.read(KNOWN)
     mutants = [m for m in everything if is_wanted(m, options.file or ["*"])]
+    if options.known:
+        mutants = [m for m in mutants if survivors.key(m) in known]
     if options.list:
         print(*mutants, f"{len(mutants)} mutants", sep="\n")
         return 0
 
-    known = survivors.read(KNOWN)
     random.Random(options.seed).shuffle(mutants)
-    run = Run(mutants, known, options.seconds, options.workers, options.rounds)
+    run = Run(mutants, set() if options.known else known, options.seconds, options.workers, options.rounds)
     run.start()
     new = report(run.verdicts)
     print(f"{len(run.verdicts)} of {len(mutants)} mutants tried")
     gone = known - {survivors.key(m) for m in everything}
     for file, line, change in sorted(gone):
         print(f"no longer a mutant, though {KNOWN.name} has it: {file}: {change}: {line}")
-    return 1 if new or gone else 0
+    if not options.known:
+        return 1 if new or gone else 0
+    killed = [mutant for mutant, verdict in run.verdicts if "/" in verdict]
+    for mutant in killed:
+        print(f"killed, though {KNOWN.name} has it: {mutant}")
+    return 1 if killed or gone else 0
 
 
 if __name__ == "__main__":
