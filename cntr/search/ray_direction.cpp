@@ -191,8 +191,7 @@ private:
         const auto nearness = [&](const gk_Box& box) {
             // What is before the x direction may be wanted, nothing else of what is before `least`.
             const gkVector<2> corner(box.x0 - point_.x(), box.y1 - point_.y());
-            const bool isBefore =
-                least > 0.0 && least < 1.0 && corner.x() > 0.0 && gk_VectorOps::cross(before, corner) < 0.0;
+            const bool isBefore = least > 0.0 && corner.x() > 0.0 && gk_VectorOps::cross(before, corner) < 0.0;
             return isBefore ? 3.0 : leastTurn(point_, box);
         };
         tree_.nearestFirst(

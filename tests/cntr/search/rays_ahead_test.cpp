@@ -141,3 +141,28 @@ TEST(RaysAhead, ProvesNothingOfAVertexBelowTheXDirectionByLessThanAnAngleCanBe) 
     }
     EXPECT_TRUE(rays->bothMeet(outline, {0, 0.5}, met));
 }
+
+// The first wide gap is the mouth of a bay, wide by less than is known of its sine. The ray leaves through it;
+// one through the next gap would not.
+TEST(RaysAhead, ProvesNothingOfAGapThatIsWideByAHair) {
+    constexpr std::size_t kHalf = 40; // of the vertices: inside the bay, and outside
+    const gkVector<2> place(3, 5);
+    const double step = std::acos(-1.0) / (2.0 * kHalf);
+    for (const double more : {1e-13, 1e-12, 4e-12, 1e-10}) {
+        const double first = 0.01 + step + more;
+        const double apart = (2.0 * std::acos(-1.0) - step - more) / (kHalf - 1);
+        Points points;
+        for (std::size_t i = 0; i < kHalf; ++i) {
+            const double angle = first + apart * static_cast<double>(i);
+            points.push_back(place + gkVector<2>(std::cos(angle), std::sin(angle)) * 50.0);
+        }
+        for (std::size_t i = kHalf; i-- > 0;) points.push_back(place + (points[i] - place) * 1.2);
+        const gk_Segments outline(points, true);
+        std::optional<gk_RaysAhead> rays = raysOf(points);
+        ASSERT_TRUE(rays);
+        ASSERT_EQ(0, oracle::insideCount(points, place, true)) << more;
+        rays->gather(outline, gk_Box::of(place, place));
+        gk_RaysMet met;
+        EXPECT_FALSE(rays->bothMeet(outline, place, met)) << more;
+    }
+}
