@@ -27,7 +27,7 @@ public:
         bytes_[column / 8] = static_cast<std::uint8_t>(bytes_[column / 8] | 1u << column % 8);
     }
 
-    // Some consecutive columns, as turns. Roundings put a direction at most a neighbour's room into the next.
+    // Some consecutive columns, as turns.
     struct Range {
         double begin;
         double end;

@@ -226,19 +226,10 @@ private:
         return angles;
     }
 
-    // Of no more than three quarters.
-    bool isNarrow(const Turns& turns) const {
-        const gkVector<2> from = gk_DirectionAt(turns.begin);
-        const gkVector<2> to = gk_DirectionAt(turns.end);
-        const double cross = gk_VectorOps::cross(from, to);
-        return gk_VectorOps::dot(from, to) > 0.0 &&
-               cross * cross <= narrowSine2_ * gk_VectorOps::dot(from, from) * gk_VectorOps::dot(to, to);
-    }
-
     std::optional<gkVector<2>> throughFirstWide(const gk_DirectionColumns& found) const {
         std::optional<gkVector<2>> middle;
         found.anyGap([&](const Turns& turns) {
-            if (isNarrow(turns)) return false;
+            if (!gk_IsWider(gk_DirectionAt(turns.begin), gk_DirectionAt(turns.end), narrowSine2_)) return false;
             const std::vector<double> angles = directions(turns);
             const auto wide = std::adjacent_find(angles.begin(), angles.end(), [&](double from, double to) {
                 return gapBetween(from, to) > step_;

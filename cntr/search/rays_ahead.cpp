@@ -42,28 +42,10 @@ double squared(double number) { return number * number; }
 
 double sineOfStep(std::size_t vertexCount) { return std::sin(kPi / static_cast<double>(vertexCount)); }
 
-// Between directions less than half a turn apart.
-class Gap {
-public:
-    Gap(const gkVector<2>& from, const gkVector<2>& to)
-        : from_(from), to_(to), dot_(gk_VectorOps::dot(from, to)),
-          cross2_(squared(gk_VectorOps::cross(from, to))),
-          lengths2_(gk_VectorOps::dot(from, from) * gk_VectorOps::dot(to, to)) {}
-
-    // Than an angle, below a right one, by the square of its sine.
-    bool isWider(double sine2) const { return dot_ <= 0.0 || cross2_ > sine2 * lengths2_; }
-    gkVector<2> middle() const {
-        const gkVector<2> sum = from_ / gk_VectorOps::length(from_) + to_ / gk_VectorOps::length(to_);
-        return sum / gk_VectorOps::length(sum);
-    }
-
-private:
-    gkVector<2> from_;
-    gkVector<2> to_;
-    double dot_;
-    double cross2_;
-    double lengths2_;
-};
+gkVector<2> middleOf(const gkVector<2>& from, const gkVector<2>& to) {
+    const gkVector<2> sum = from / gk_VectorOps::length(from) + to / gk_VectorOps::length(to);
+    return sum / gk_VectorOps::length(sum);
+}
 
 // A ray whose direction, of length 1, is nearly known.
 class NearRay {
@@ -200,15 +182,15 @@ std::optional<gkVector<2>> gk_RaysAhead::throughFirstWideGap(const gkVector<2>& 
         next = i->offset;
         if (isBefore(next, least)) std::swap(least, next);
     }
-    const Gap first(least, next);
-    if (first.isWider(wideSine2_)) return first.middle();
+    if (gk_IsWider(least, next, wideSine2_)) return middleOf(least, next);
     for (auto i = begin; i != end; ++i) i->turn = gk_QuarterTurns(i->offset.x(), i->offset.y());
     std::make_heap(begin, end);
     while (end - begin > 1) {
         std::pop_heap(begin, end--);
-        const Gap gap(end->offset, begin->offset);
-        if (gap.isWider(wideSine2_)) return gap.middle();
-        if (gap.isWider(narrowSine2_)) break;
+        const gkVector<2>& from = end->offset;
+        const gkVector<2>& to = begin->offset;
+        if (gk_IsWider(from, to, wideSine2_)) return middleOf(from, to);
+        if (gk_IsWider(from, to, narrowSine2_)) break;
     }
     return std::nullopt;
 }

@@ -3,6 +3,7 @@
 #define GK_CNTR_SEARCH_TURN_H
 
 #include "cntr/search/box.h"
+#include "platform/core/math/vector_ops.h"
 
 // Quarters of a turn from the x direction, counter-clockwise, in [0, 4): whole on the axes and monotone between
 // them, but not even. NaN for (0, 0).
@@ -16,6 +17,14 @@ inline gkVector<2> gk_DirectionAt(double quarterTurns) {
     if (quarterTurns <= 2.0)
         return {1.0 - quarterTurns, quarterTurns <= 1.0 ? quarterTurns : 2.0 - quarterTurns};
     return {quarterTurns - 3.0, quarterTurns <= 3.0 ? 2.0 - quarterTurns : quarterTurns - 4.0};
+}
+
+// Whether the angle from one direction to another at most three quarters of a turn ahead is wider than one
+// below a right angle, of which the square of the sine is given.
+inline bool gk_IsWider(const gkVector<2>& from, const gkVector<2>& to, double sine2) {
+    const double cross = gk_VectorOps::cross(from, to);
+    return gk_VectorOps::dot(from, to) <= 0.0 ||
+           cross * cross > sine2 * gk_VectorOps::dot(from, from) * gk_VectorOps::dot(to, to);
 }
 
 constexpr double kRoundedTurn = 1e-12; // thousands of the roundings of a turn
